@@ -1,0 +1,208 @@
+#include "brimlow/system/AtomicFile.h"
+
+#include "FileOperations.h"
+#include "PathSeparators.h"
+
+#include <cstdint>
+#include <random>
+
+namespace Core::IO
+{
+
+namespace
+{
+
+// With the pause of 100 ms between them: half a second.
+constexpr int maxAttempts = 6;
+
+String backupPath(const String& path)
+{
+    return path + L".previous";
+}
+
+// Numbers keep two processes that write the same file out of each other's way.
+String newSidePath(const String& path)
+{
+    std::random_device random;
+    return path + L"." + String(std::to_wstring(random())) + L".new";
+}
+
+void check(SystemError error, const String& path, const wchar_t* failure)
+{
+    if (error)
+    {
+        throw IOException(L"The file \"" + path + L"\" cannot be saved, " + failure, error);
+    }
+}
+
+void makeFolders(const String& path, FileOperations& operations)
+{
+    String::View folder = path.view();
+    while (!folder.empty() && !isSeparator(folder.back()))
+    {
+        folder.remove_suffix(1);
+    }
+    while (!folder.empty() && isSeparator(folder.back()))
+    {
+        folder.remove_suffix(1);
+    }
+    if (folder.empty() || operations.kind(folder) == FileKind::Folder)
+    {
+        return;
+    }
+    makeFolders(folder, operations);
+    if (const SystemError error = operations.makeFolder(folder))
+    {
+        throw IOException(L"The folder \"" + String(folder) + L"\" cannot be made", error);
+    }
+}
+
+// The side file, removed unless it took the target's place.
+class SideFile
+{
+  public:
+    SideFile(const String& target, FileOperations& operations) : m_operations(operations)
+    {
+        SystemError error = 0;
+        do
+        {
+            m_path = newSidePath(target);
+            error = operations.createSide(m_path, target);
+        } while (error && operations.isNameTaken(error));
+        check(error, target, L"a file beside it cannot be made");
+    }
+    SideFile(const SideFile&) = delete;
+    SideFile& operator=(const SideFile&) = delete;
+    ~SideFile()
+    {
+        if (!m_placed)
+        {
+            m_operations.close();
+            m_operations.remove(m_path);
+        }
+    }
+
+    const String& path() const noexcept { return m_path; }
+    void placed() noexcept { m_placed = true; }
+
+  private:
+    FileOperations& m_operations;
+    String m_path;
+    bool m_placed = false;
+};
+
+SystemError place(const String& side, const String& path, FileOperations& operations)
+{
+    for (int attempt = 1;; ++attempt)
+    {
+        // Asked anew each time: an attempt that failed half-way may have taken the target away.
+        const SystemError error = operations.kind(path) == FileKind::None
+                                      ? operations.move(side, path)
+                                      : operations.replace(path, side, backupPath(path));
+        if (!error || !operations.mayPass(error) || attempt == maxAttempts)
+        {
+            return error;
+        }
+        operations.pause();
+    }
+}
+
+void bringBack(const String& path, FileOperations& operations)
+{
+    if (operations.kind(path) == FileKind::None && operations.kind(backupPath(path)) != FileKind::None)
+    {
+        operations.move(backupPath(path), path);
+    }
+}
+
+} // namespace
+
+void AtomicFile::write(const String& path, std::string_view content)
+{
+    write(path, content, *makeSystemFileOperations());
+}
+
+void AtomicFile::write(const String& path, std::string_view content, FileOperations& operations)
+{
+    switch (operations.kind(path))
+    {
+    case FileKind::Folder:
+        throw IOException(L"The file \"" + path + L"\" cannot be saved, because there is a folder of that name.");
+    case FileKind::ReadOnlyFile:
+        throw IOException(L"The file \"" + path +
+                          L"\" cannot be saved, because it is read-only. Remove its read-only attribute first.");
+    case FileKind::None:
+        makeFolders(path, operations);
+        break;
+    case FileKind::File:
+        break;
+    }
+    operations.removeOldSides(path);
+
+    SideFile side(path, operations);
+    check(operations.write(content), path, L"its new content cannot be written");
+    check(operations.flush(), path, L"its new content cannot be brought to the disk");
+    check(operations.close(), path, L"its new content cannot be brought to the disk");
+    if (const SystemError error = place(side.path(), path, operations))
+    {
+        bringBack(path, operations);
+        check(error, path, L"it cannot be replaced");
+    }
+    side.placed();
+    operations.remove(backupPath(path));
+}
+
+std::string AtomicFile::read(const String& path)
+{
+    const auto operations = makeSystemFileOperations();
+    std::string content;
+    SystemError error = 0;
+    for (int attempt = 1; attempt <= maxAttempts; ++attempt)
+    {
+        error = operations->read(path, content);
+        if (operations->isNotFound(error))
+        {
+            error = operations->read(backupPath(path), content);
+        }
+        if (!error)
+        {
+            return content;
+        }
+        if (operations->isNotFound(error))
+        {
+            // Another process may have put the file in place, and removed the backup, between the two looks.
+            if (!exists(path))
+            {
+                throw FileNotFoundException(path);
+            }
+            continue;
+        }
+        if (!operations->mayPass(error))
+        {
+            break;
+        }
+        operations->pause();
+    }
+    throw IOException(L"The file \"" + path + L"\" cannot be read", error);
+}
+
+bool AtomicFile::exists(const String& path)
+{
+    const auto operations = makeSystemFileOperations();
+    const String backup = backupPath(path);
+    // More than one look, because a replacement in another process moves the file from the one name to the other.
+    for (int look = 0; look < maxAttempts; ++look)
+    {
+        for (const String& candidate : {path, backup})
+        {
+            const FileKind kind = operations->kind(candidate);
+            if (kind != FileKind::None)
+            {
+                return kind != FileKind::Folder;
+            }
+        }
+    }
+    return false;
+}
+
+} // namespace Core::IO
