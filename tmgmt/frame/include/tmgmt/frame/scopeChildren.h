@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/mmc.h"
+
+#include <span>
+
+#include "brimlow/system/SmartPtr.h"
+#include "tmgmt/snapin/CSnapInItem.h"
+#include "tmgmt/snapin/Console.h"
+
+namespace TMgmt
+{
+
+// A node of the tree was expanded or collapsed. What an earlier expansion inserted below it goes; on an expansion the
+// children are inserted in that order. node remembers the handle that the console now has for it, each child the one
+// it gets. Throws ComError, and Core::NullPointerException for a child that is missing.
+HRESULT expandChildren(CSnapInItem& node, std::span<const Core::SmartPtr<CSnapInItem>> children, bool expanding,
+                       HSCOPEITEM handle, Console& console);
+
+} // namespace TMgmt

@@ -1,0 +1,38 @@
+#include "tree.h"
+
+#include "tmgmt/certificates/CertificateCollectionItem.h"
+#include "tmgmt/fonts_logs/LogListItem.h"
+#include "tmgmt/fonts_logs/PrivateFontsCollectionItem.h"
+#include "tmgmt/frame/AboutKVTessaroItem.h"
+#include "tmgmt/hotfolders/HotFoldersCollectionItem.h"
+#include "tmgmt/settings/AFPEncoderSettingsItem.h"
+#include "tmgmt/settings/ListenerConfigurationItem.h"
+#include "tmgmt/settings/LogItem.h"
+#include "tmgmt/settings/SettingsItem.h"
+#include "tmgmt/templates/TemplatesCollection.h"
+#include "tmgmt/users/UsersCollectionItem.h"
+
+namespace TMgmt
+{
+
+RootBranches makeBranches()
+{
+    const Core::SmartPtr<SettingsFileReport> report(new SettingsFileReport);
+    // Members are made in their order: the settings first, as they are declared.
+    SettingsBranches settings{
+        .afpEncoder = new AFPEncoderSettingsItem(report),
+        .listenerConfiguration = new ListenerConfigurationItem(report),
+        .privateFonts = new PrivateFontsCollectionItem,
+    };
+    return {
+        .settings = new SettingsItem(std::move(settings)),
+        .about = new AboutKVTessaroItem,
+        .log = new LogItem(report, new LogListItem),
+        .hotFolders = new HotFoldersCollectionItem,
+        .templates = new TemplatesCollection,
+        .users = new UsersCollectionItem,
+        .certificates = new CertificateCollectionItem,
+    };
+}
+
+} // namespace TMgmt

@@ -1,0 +1,105 @@
+#include "tmgmt/snapin/Console.h"
+
+#include <commctrl.h>
+
+#include "tmgmt/snapin/ViewRows.h"
+#include "tmgmt/snapin/guard.h"
+
+using Microsoft::WRL::ComPtr;
+
+namespace TMgmt
+{
+
+Console::Console(ComPtr<IConsole> console, std::shared_ptr<ViewRows> rows, ComPtr<IExtendControlbar> controlbar)
+    : m_console(std::move(console)), m_rows(std::move(rows)), m_controlbar(std::move(controlbar))
+{
+    if (!m_console)
+    {
+        throw ComError(E_UNEXPECTED);
+    }
+}
+
+template <class Interface>
+ComPtr<Interface> Console::query()
+{
+    ComPtr<Interface> found;
+    throwIfFailed(m_console.As(&found));
+    return found;
+}
+
+ViewRows& Console::rows()
+{
+    if (!m_rows)
+    {
+        throw ComError(E_UNEXPECTED);
+    }
+    return *m_rows;
+}
+
+void Console::insertColumn(int position, const wchar_t* title, int width)
+{
+    throwIfFailed(query<IHeaderCtrl>()->InsertColumn(position, title, LVCFMT_LEFT, width));
+}
+
+void Console::switchSortingOff()
+{
+    throwIfFailed(query<IResultData>()->ModifyViewStyle(MMC_NOSORTHEADER, static_cast<MMC_RESULT_VIEW_STYLE>(0)));
+}
+
+void Console::insertRow(CSnapInItem& item)
+{
+    ViewRows& rows = this->rows();
+    RESULTDATAITEM& record = item.GetResultData();
+    throwIfFailed(query<IResultData>()->InsertItem(&record));
+    rows.add(item, record.itemID);
+}
+
+void Console::updateRow(CSnapInItem& item)
+{
+    if (const HRESULTITEM id = rows().find(item))
+    {
+        throwIfFailed(query<IResultData>()->UpdateItem(id));
+    }
+}
+
+void Console::clearRows()
+{
+    ViewRows& rows = this->rows();
+    const auto results = query<IResultData>();
+    HWND frame = nullptr;
+    m_console->GetMainWindow(&frame);
+    LockWindowUpdate(frame);
+    const HRESULT result = results->DeleteAllRsltItems();
+    LockWindowUpdate(nullptr);
+    throwIfFailed(result);
+    rows.clear();
+}
+
+bool Console::enableVerb(MMC_CONSOLE_VERB verb)
+{
+    ComPtr<IConsoleVerb> verbs;
+    if (FAILED(m_console->QueryConsoleVerb(&verbs)) || !verbs)
+    {
+        return false;
+    }
+    throwIfFailed(verbs->SetVerbState(verb, ENABLED, TRUE));
+    return true;
+}
+
+HRESULT Console::selectScopeItem(HSCOPEITEM item)
+{
+    return m_console->SelectScopeItem(item);
+}
+
+ComPtr<IConsoleNameSpace> Console::nameSpace()
+{
+    return query<IConsoleNameSpace>();
+}
+
+void Console::updateAllViews(CSnapInItem& item, DATA_OBJECT_TYPES type)
+{
+    const auto object = item.GetDataObject(type);
+    m_console->UpdateAllViews(object.Get(), 0, 0);
+}
+
+} // namespace TMgmt

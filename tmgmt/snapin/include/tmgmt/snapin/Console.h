@@ -1,0 +1,63 @@
+#pragma once
+
+#include "platform/mmc.h"
+
+#include <wrl/client.h>
+
+#include <memory>
+
+#include "tmgmt/snapin/CSnapInItem.h"
+
+namespace TMgmt
+{
+
+class ViewRows;
+
+// The console as one call's caller has it: the component data's or one view's. It is held for the length of the call,
+// so that the caller may be destroyed meanwhile. Methods throw ComError where nothing else is said.
+class Console
+{
+  public:
+    // rows and controlbar are null when the component data is the caller. Throws ComError(E_UNEXPECTED) without a
+    // console: a call before Initialize or after Destroy.
+    Console(Microsoft::WRL::ComPtr<IConsole> console, std::shared_ptr<ViewRows> rows,
+            Microsoft::WRL::ComPtr<IExtendControlbar> controlbar);
+
+    // The view's own control-bar interface, null when the component data is the caller.
+    IExtendControlbar* controlbar() const noexcept { return m_controlbar.Get(); }
+
+    // --- The result pane of a view. A call through the component data has none: E_UNEXPECTED.
+
+    // Appends a left-aligned column at that position; the width is in pixels.
+    void insertColumn(int position, const wchar_t* title, int width);
+    // Clicks on column headers no longer sort.
+    void switchSortingOff();
+    void insertRow(CSnapInItem& item);
+    // Has the console ask for the row's texts again. Does nothing in a view that does not show it.
+    void updateRow(CSnapInItem& item);
+    // Removes every row that was inserted; the window is not redrawn meanwhile.
+    void clearRows();
+
+    // Enables a verb for what is selected now. False when the console has no verbs for this caller.
+    bool enableVerb(MMC_CONSOLE_VERB verb);
+
+    // --- The tree
+
+    HRESULT selectScopeItem(HSCOPEITEM item);
+    Microsoft::WRL::ComPtr<IConsoleNameSpace> nameSpace();
+
+    // Tells every view that this node has changed. A view that cannot be told keeps what it shows: the change itself
+    // has happened by then, so nothing is thrown.
+    void updateAllViews(CSnapInItem& item, DATA_OBJECT_TYPES type);
+
+  private:
+    template <class Interface>
+    Microsoft::WRL::ComPtr<Interface> query();
+    ViewRows& rows();
+
+    Microsoft::WRL::ComPtr<IConsole> m_console;
+    std::shared_ptr<ViewRows> m_rows;
+    Microsoft::WRL::ComPtr<IExtendControlbar> m_controlbar;
+};
+
+} // namespace TMgmt
