@@ -1,4 +1,5 @@
 #include "brimlow/system/String.h"
+#include "PrintTo.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,61 @@
+#include "TemporaryFolder.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <stdexcept>
+
+TemporaryFolder::TemporaryFolder()
+    : m_folder(std::filesystem::temp_directory_path() / ("tessaro-test-" + std::to_string(std::random_device()())))
+{
+    std::filesystem::create_directories(m_folder);
+}
+
+TemporaryFolder::~TemporaryFolder()
+{
+    // Read-only files cannot be removed on Windows.
+    std::error_code ignored;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(m_folder, ignored))
+    {
+        std::filesystem::permissions(entry, std::filesystem::perms::owner_all, std::filesystem::perm_options::add,
+                                     ignored);
+    }
+    std::filesystem::remove_all(m_folder, ignored);
+}
+
+Core::String TemporaryFolder::path(const wchar_t* name) const
+{
+    return (m_folder / name).wstring();
+}
+
+void TemporaryFolder::write(const wchar_t* name, std::string_view content) const
+{
+    std::ofstream file(m_folder / name, std::ios::binary | std::ios::trunc);
+    file.write(content.data(), static_cast<std::streamsize>(content.size()));
+    if (!file.flush())
+    {
+        throw std::runtime_error("cannot write a test file");
+    }
+}
+
+std::string TemporaryFolder::read(const wchar_t* name) const
+{
+    std::ifstream file(m_folder / name, std::ios::binary);
+    if (!file)
+    {
+        throw std::runtime_error("cannot open a test file");
+    }
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::vector<std::wstring> TemporaryFolder::names() const
+{
+    std::vector<std::wstring> names;
+    for (const auto& entry : std::filesystem::directory_iterator(m_folder))
+    {
+        names.push_back(entry.path().filename().wstring());
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "brimlow/system/String.h"
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// An empty folder of its own for one test, removed afterwards with all that is in it.
+class TemporaryFolder
+{
+  public:
+    TemporaryFolder();
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+    ~TemporaryFolder();
+
+    const std::filesystem::path& folder() const noexcept { return m_folder; }
+    // The full path of a name in the folder, for the libraries.
+    Core::String path(const wchar_t* name) const;
+
+    void write(const wchar_t* name, std::string_view content) const;
+    std::string read(const wchar_t* name) const;
+    // The names in the folder, in alphabetical order.
+    std::vector<std::wstring> names() const;
+
+  private:
+    std::filesystem::path m_folder;
+};
