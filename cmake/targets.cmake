@@ -6,7 +6,7 @@ if(WIN32)
   target_compile_definitions(tm_options INTERFACE UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX
     STRICT _WIN32_WINNT=0x0601 WINVER=0x0601 MMC_VER=0x0200)
   # The products need nothing but system libraries, so the compiler's own runtime goes in.
-  target_link_options(tm_options INTERFACE -static -static-libgcc -static-libstdc++)
+  target_link_options(tm_options INTERFACE -static -static-libgcc -static-libstdc++ $<$<CONFIG:Release>:-s>)
 endif()
 
 # tm_library(name SOURCES … LINKS …): one folder, one static library. What a library does not link to it cannot

@@ -41,13 +41,16 @@ void registerTypeLibrary(Registration registration)
         return;
     }
     const Attributes attributes(*library.Get());
-    const HRESULT result = UnRegisterTypeLib(attributes->guid, attributes->wMajorVerNum, attributes->wMinorVerNum,
-                                             attributes->lcid, attributes->syskind);
-    // Removing what is not there is no failure.
-    if (result != TYPE_E_REGISTRYACCESS)
+    // Removing what is not there is no failure, but not every system answers UnRegisterTypeLib so.
+    BSTR registered = nullptr;
+    if (FAILED(QueryPathOfRegTypeLib(attributes->guid, attributes->wMajorVerNum, attributes->wMinorVerNum,
+                                     attributes->lcid, &registered)))
     {
-        throwIfFailed(result);
+        return;
     }
+    SysFreeString(registered);
+    throwIfFailed(UnRegisterTypeLib(attributes->guid, attributes->wMajorVerNum, attributes->wMinorVerNum,
+                                    attributes->lcid, attributes->syskind));
 }
 
 } // namespace TMgmt
