@@ -41,6 +41,28 @@ std::string numberCharacters(std::wstring_view text)
     return result;
 }
 
+// Whether a real number that double cannot hold is beyond it rather than too close to zero; from_chars does not say.
+bool isLarge(std::string_view number) noexcept
+{
+    const std::size_t e = std::min(number.find_first_of("eE"), number.size());
+    const std::string_view mantissa = number.substr(0, e);
+    const auto point = static_cast<long>(std::min(mantissa.find('.'), mantissa.size()));
+    const auto first = static_cast<long>(mantissa.find_first_of("123456789"));
+    long exponent = 0;
+    if (e < number.size())
+    {
+        const bool negative = number.substr(e + 1).starts_with('-');
+        const std::size_t skip = negative || number.substr(e + 1).starts_with('+') ? 2 : 1;
+        const char* const last = number.data() + number.size();
+        if (std::from_chars(number.data() + e + skip, last, exponent).ec == std::errc::result_out_of_range)
+        {
+            return !negative;
+        }
+        exponent = negative ? -exponent : exponent;
+    }
+    return point - first + exponent > 0;
+}
+
 } // namespace
 
 std::optional<double> leadingReal(std::wstring_view text)
@@ -54,11 +76,7 @@ std::optional<double> leadingReal(std::wstring_view text)
     }
     if (error == std::errc::result_out_of_range)
     {
-        // Too large or too small to hold: from_chars does not say which, the sign of the exponent does.
-        const std::string_view used(digits.data(), end);
-        const bool tiny = used.find("e-") != std::string_view::npos || used.find("E-") != std::string_view::npos ||
-                          used.find_first_of("eE") == std::string_view::npos;
-        const double magnitude = tiny ? 0.0 : std::numeric_limits<double>::infinity();
+        const double magnitude = isLarge({digits.data(), end}) ? std::numeric_limits<double>::infinity() : 0.0;
         return digits.starts_with('-') ? -magnitude : magnitude;
     }
     return value;
