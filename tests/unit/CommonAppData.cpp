@@ -12,7 +12,7 @@ namespace
 
 fs::path dataFolder()
 {
-    return Core::Process::getCommonAppDataFolder().str();
+    return toPath(Core::Process::getCommonAppDataFolder());
 }
 
 } // namespace

@@ -6,6 +6,18 @@
 #include <random>
 #include <stdexcept>
 
+std::filesystem::path toPath(const Core::String& text)
+{
+    const std::string bytes = text.toUtf8();
+    return std::u8string(bytes.begin(), bytes.end());
+}
+
+Core::String fromPath(const std::filesystem::path& path)
+{
+    const std::u8string bytes = path.u8string();
+    return Core::String::fromUtf8({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+}
+
 TemporaryFolder::TemporaryFolder()
     : m_folder(std::filesystem::temp_directory_path() / ("tessaro-test-" + std::to_string(std::random_device()())))
 {
@@ -26,12 +38,12 @@ TemporaryFolder::~TemporaryFolder()
 
 Core::String TemporaryFolder::path(const wchar_t* name) const
 {
-    return (m_folder / name).wstring();
+    return fromPath(m_folder / toPath(name));
 }
 
 void TemporaryFolder::write(const wchar_t* name, std::string_view content) const
 {
-    std::ofstream file(m_folder / name, std::ios::binary | std::ios::trunc);
+    std::ofstream file(m_folder / toPath(name), std::ios::binary | std::ios::trunc);
     file.write(content.data(), static_cast<std::streamsize>(content.size()));
     if (!file.flush())
     {
@@ -41,7 +53,7 @@ void TemporaryFolder::write(const wchar_t* name, std::string_view content) const
 
 std::string TemporaryFolder::read(const wchar_t* name) const
 {
-    std::ifstream file(m_folder / name, std::ios::binary);
+    std::ifstream file(m_folder / toPath(name), std::ios::binary);
     if (!file)
     {
         throw std::runtime_error("cannot open a test file");
@@ -49,12 +61,12 @@ std::string TemporaryFolder::read(const wchar_t* name) const
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-std::vector<std::wstring> TemporaryFolder::names() const
+std::vector<Core::String> TemporaryFolder::names() const
 {
-    std::vector<std::wstring> names;
+    std::vector<Core::String> names;
     for (const auto& entry : std::filesystem::directory_iterator(m_folder))
     {
-        names.push_back(entry.path().filename().wstring());
+        names.push_back(fromPath(entry.path().filename()));
     }
     std::sort(names.begin(), names.end());
     return names;

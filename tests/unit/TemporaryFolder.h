@@ -7,6 +7,10 @@
 #include <string_view>
 #include <vector>
 
+// File system paths of texts and back. The paths' own conversions depend on the locale.
+std::filesystem::path toPath(const Core::String& text);
+Core::String fromPath(const std::filesystem::path& path);
+
 // An empty folder of its own for one test, removed afterwards with all that is in it.
 class TemporaryFolder
 {
@@ -23,7 +27,7 @@ class TemporaryFolder
     void write(const wchar_t* name, std::string_view content) const;
     std::string read(const wchar_t* name) const;
     // The names in the folder, in alphabetical order.
-    std::vector<std::wstring> names() const;
+    std::vector<Core::String> names() const;
 
   private:
     std::filesystem::path m_folder;

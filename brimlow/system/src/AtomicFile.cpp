@@ -20,6 +20,23 @@ String backupPath(const String& path)
     return path + L".previous";
 }
 
+// The name under which the content of the file is now: its own, or that of the backup; empty when there is none.
+String findContent(const String& path, FileOperations& operations)
+{
+    // More than one look, because a replacement in another process moves the content from the one name to the other.
+    for (int look = 0; look < maxAttempts; ++look)
+    {
+        for (const String& candidate : {path, backupPath(path)})
+        {
+            if (operations.kind(candidate) != FileKind::None)
+            {
+                return candidate;
+            }
+        }
+    }
+    return {};
+}
+
 // Numbers keep two processes that write the same file out of each other's way.
 String newSidePath(const String& path)
 {
@@ -64,11 +81,16 @@ class SideFile
     SideFile(const String& target, FileOperations& operations) : m_operations(operations)
     {
         SystemError error = 0;
-        do
+        for (int attempt = 1; attempt <= maxAttempts; ++attempt)
         {
             m_path = newSidePath(target);
-            error = operations.createSide(m_path, target);
-        } while (error && operations.isNameTaken(error));
+            error = operations.createSide(m_path, findContent(target, operations));
+            if (!error || !operations.mayPass(error))
+            {
+                break;
+            }
+            operations.pause();
+        }
         check(error, target, L"a file beside it cannot be made");
     }
     SideFile(const SideFile&) = delete;
@@ -189,20 +211,8 @@ std::string AtomicFile::read(const String& path)
 bool AtomicFile::exists(const String& path)
 {
     const auto operations = makeSystemFileOperations();
-    const String backup = backupPath(path);
-    // More than one look, because a replacement in another process moves the file from the one name to the other.
-    for (int look = 0; look < maxAttempts; ++look)
-    {
-        for (const String& candidate : {path, backup})
-        {
-            const FileKind kind = operations->kind(candidate);
-            if (kind != FileKind::None)
-            {
-                return kind != FileKind::Folder;
-            }
-        }
-    }
-    return false;
+    const String found = findContent(path, *operations);
+    return !found.empty() && operations->kind(found) != FileKind::Folder;
 }
 
 } // namespace Core::IO

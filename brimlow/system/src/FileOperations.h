@@ -31,9 +31,9 @@ class FileOperations
     // Success too when the folder is there already.
     virtual SystemError makeFolder(const String& folder) = 0;
 
-    // Makes a new file, refusing an existing one, with the access list of target (if there is a target) from the
-    // first moment on. It stays open for write, flush and close.
-    virtual SystemError createSide(const String& side, const String& target) = 0;
+    // Makes a new file, refusing an existing one, with the access list of model from the first moment on (with the
+    // folder's usual one when model is empty). It stays open for write, flush and close.
+    virtual SystemError createSide(const String& side, const String& model) = 0;
     virtual SystemError write(std::string_view content) = 0;
     // Returns when the content is on the disk.
     virtual SystemError flush() = 0;
@@ -48,7 +48,6 @@ class FileOperations
     virtual void removeOldSides(const String& path) = 0;
 
     virtual bool isNotFound(SystemError error) const = 0;
-    virtual bool isNameTaken(SystemError error) const = 0;
     // Whether the error comes from another program that uses the file just now, so that a second attempt makes sense.
     virtual bool mayPass(SystemError error) const = 0;
     // Waits before that attempt.

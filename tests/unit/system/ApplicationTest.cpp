@@ -35,7 +35,7 @@ class Application : public testing::Test
 TEST_F(Application, CommonFolderIsAbsoluteAndHasNoSeparatorAtTheEnd)
 {
     const std::wstring folder = Core::Process::getCommonAppDataFolder().str();
-    EXPECT_TRUE(std::filesystem::path(folder).is_absolute());
+    EXPECT_TRUE(toPath(folder).is_absolute());
     EXPECT_EQ(std::wstring::npos, std::wstring(L"\\/").find(folder.back()));
 }
 

@@ -55,7 +55,7 @@ TEST(FileExists, TellsFilesFromFoldersAndNothing)
     EXPECT_TRUE(FileSystem::fileExists(folder.path(L"a.config")));
     EXPECT_FALSE(FileSystem::fileExists(folder.path(L"b.config")));
     EXPECT_FALSE(FileSystem::fileExists(folder.path(L"b\\b.config")));
-    EXPECT_FALSE(FileSystem::fileExists(folder.folder().wstring()));
+    EXPECT_FALSE(FileSystem::fileExists(fromPath(folder.folder())));
     EXPECT_FALSE(FileSystem::fileExists(L""));
 }
 

@@ -82,16 +82,20 @@ class SystemFileOperations final : public FileOperations
         return error == EEXIST ? 0 : error;
     }
 
-    SystemError createSide(const String& side, const String& target) override
+    SystemError createSide(const String& side, const String& model) override
     {
         struct stat status;
-        const bool hasTarget = stat(systemPath(target).c_str(), &status) == 0;
-        m_side = open(systemPath(side).c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, hasTarget ? 0600 : 0666);
+        const bool hasModel = !model.empty();
+        if (hasModel && stat(systemPath(model).c_str(), &status) != 0)
+        {
+            return static_cast<SystemError>(errno);
+        }
+        m_side = open(systemPath(side).c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, hasModel ? 0600 : 0666);
         if (m_side < 0)
         {
             return static_cast<SystemError>(errno);
         }
-        const SystemError error = hasTarget ? resultOf(fchmod(m_side, status.st_mode & 07777)) : 0;
+        const SystemError error = hasModel ? resultOf(fchmod(m_side, status.st_mode & 07777)) : 0;
         if (error)
         {
             close();
@@ -166,9 +170,8 @@ class SystemFileOperations final : public FileOperations
     }
 
     bool isNotFound(SystemError error) const override { return error == ENOENT || error == ENOTDIR; }
-    bool isNameTaken(SystemError error) const override { return error == EEXIST; }
-    // The target came between the look and the call; nothing else is only a matter of waiting here.
-    bool mayPass(SystemError error) const override { return error == EEXIST; }
+    // The target came or went between the look and the call; nothing else is only a matter of waiting here.
+    bool mayPass(SystemError error) const override { return error == EEXIST || error == ENOENT; }
     void pause() override { std::this_thread::sleep_for(std::chrono::milliseconds(100)); }
 
   private:

@@ -98,15 +98,15 @@ class SystemFileOperations final : public FileOperations
         return error == ERROR_ALREADY_EXISTS ? 0 : error;
     }
 
-    SystemError createSide(const String& side, const String& target) override
+    SystemError createSide(const String& side, const String& model) override
     {
         std::vector<std::byte> descriptor;
         SECURITY_ATTRIBUTES attributes{sizeof attributes, nullptr, FALSE};
-        if (kind(target) != FileKind::None)
+        if (!model.empty())
         {
             // ReplaceFileW would carry the access list over, but too late: until then the side file must not be more
-            // open than the target.
-            if (const SystemError error = readAccessList(target, descriptor))
+            // open than its model.
+            if (const SystemError error = readAccessList(model, descriptor))
             {
                 return error;
             }
@@ -178,11 +178,6 @@ class SystemFileOperations final : public FileOperations
     bool isNotFound(SystemError error) const override
     {
         return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
-    }
-
-    bool isNameTaken(SystemError error) const override
-    {
-        return error == ERROR_FILE_EXISTS || error == ERROR_ALREADY_EXISTS;
     }
 
     bool mayPass(SystemError error) const override
