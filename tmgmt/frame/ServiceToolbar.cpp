@@ -60,7 +60,6 @@ HRESULT attachServiceToolbar(ControlbarSite& site)
 {
     if (!site.controlbar)
     {
-        site.toolbar.Reset();
         return S_OK;
     }
     ComPtr<IUnknown> made;

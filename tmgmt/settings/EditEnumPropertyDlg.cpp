@@ -15,17 +15,15 @@ constexpr int buttonCount = IDC_PROPERTY_OPTION_LAST - IDC_PROPERTY_OPTION_FIRST
 
 EditEnumPropertyDlg::EditEnumPropertyDlg(PropertyOptions options_, std::wstring displayName_, std::wstring value_,
                                          std::wstring description_, bool restart_)
-    : Dialog(IDD_EDIT_ENUM_PROPERTY),
+    : PropertyDlg(IDD_EDIT_ENUM_PROPERTY, std::move(displayName_), std::move(description_), restart_),
       options(std::move(options_)),
-      displayName(std::move(displayName_)),
-      value(std::move(value_)),
-      description(std::move(description_)),
-      restart(restart_)
+      value(std::move(value_))
 {
 }
 
 bool EditEnumPropertyDlg::onInit()
 {
+    showProperty();
     const int offered = std::min(buttonCount, static_cast<int>(options.size()));
     for (int i = 0; i < buttonCount; ++i)
     {
@@ -40,8 +38,6 @@ bool EditEnumPropertyDlg::onInit()
             ShowWindow(item(IDC_PROPERTY_OPTION_FIRST + i), SW_HIDE);
         }
     }
-    setText(IDC_PROPERTY_NAME, displayName);
-    setText(IDC_PROPERTY_DESCRIPTION, description);
     for (int i = 0; i < offered; ++i)
     {
         if (options[static_cast<std::size_t>(i)].value == value)
@@ -52,19 +48,7 @@ bool EditEnumPropertyDlg::onInit()
     }
     // The last button gets the focus whether it is visible or not: kept as is.
     setFocus(IDC_PROPERTY_OPTION_LAST);
-    setChecked(IDC_RESTART_SERVICE, restart);
     return false;
-}
-
-void EditEnumPropertyDlg::onCommand(int control, int notification)
-{
-    if (control == IDC_PROPERTY_RESET)
-    {
-        restart = isChecked(IDC_RESTART_SERVICE);
-        end(IDC_PROPERTY_RESET);
-        return;
-    }
-    Dialog::onCommand(control, notification);
 }
 
 void EditEnumPropertyDlg::onOk()
@@ -77,8 +61,7 @@ void EditEnumPropertyDlg::onOk()
             break;
         }
     }
-    restart = isChecked(IDC_RESTART_SERVICE);
-    end(IDOK);
+    finish(IDOK);
 }
 
 } // namespace TMgmt

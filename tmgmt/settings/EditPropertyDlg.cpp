@@ -9,35 +9,19 @@ namespace TMgmt
 
 EditPropertyDlg::EditPropertyDlg(PropertyKind kind_, std::wstring displayName_, std::wstring value_,
                                  std::wstring description_, bool restart_)
-    : Dialog(IDD_EDIT_PROPERTY),
+    : PropertyDlg(IDD_EDIT_PROPERTY, std::move(displayName_), std::move(description_), restart_),
       kind(kind_),
-      displayName(std::move(displayName_)),
-      value(std::move(value_)),
-      description(std::move(description_)),
-      restart(restart_)
+      value(std::move(value_))
 {
 }
 
 bool EditPropertyDlg::onInit()
 {
+    showProperty();
     setText(IDC_PROPERTY_UNIT, unitLabel(kind));
-    setText(IDC_PROPERTY_NAME, displayName);
     setText(IDC_PROPERTY_VALUE, value);
     setFocus(IDC_PROPERTY_VALUE);
-    setText(IDC_PROPERTY_DESCRIPTION, description);
-    setChecked(IDC_RESTART_SERVICE, restart);
     return false;
-}
-
-void EditPropertyDlg::onCommand(int control, int notification)
-{
-    if (control == IDC_PROPERTY_RESET)
-    {
-        restart = isChecked(IDC_RESTART_SERVICE);
-        end(IDC_PROPERTY_RESET);
-        return;
-    }
-    Dialog::onCommand(control, notification);
 }
 
 void EditPropertyDlg::onOk()
@@ -60,8 +44,7 @@ void EditPropertyDlg::onOk()
         return;
     }
     value = std::get<std::wstring>(checked);
-    restart = isChecked(IDC_RESTART_SERVICE);
-    end(IDOK);
+    finish(IDOK);
 }
 
 } // namespace TMgmt

@@ -7,8 +7,7 @@ namespace TMgmt
 
 // The toolbar with which the server's service is started and stopped. Every node has it, one to a view.
 
-// Attaches it where the console has just given a control bar, or drops it where the bar is about to go. Throws
-// ComError.
+// Attaches it when the console has given a control bar; without one there is nothing to do. Throws ComError.
 HRESULT attachServiceToolbar(ControlbarSite& site);
 
 // Enables the buttons that make sense in the state that the service is in now.

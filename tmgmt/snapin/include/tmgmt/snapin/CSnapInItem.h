@@ -35,7 +35,7 @@ class CSnapInItem : public Core::Object
     virtual HRESULT Command(long command, Console& console, DATA_OBJECT_TYPES type) = 0;
     virtual HRESULT CreatePropertyPages(IPropertySheetCallback& sheet, LONG_PTR handle, DATA_OBJECT_TYPES type) = 0;
     virtual HRESULT QueryPagesFor(DATA_OBJECT_TYPES type) = 0;
-    // The view's control bar came or, when the site has none, is about to go.
+    // The view's control bar came, or went: then the site has none, and what was attached to it is detached already.
     virtual HRESULT SetControlbar(ControlbarSite& site) = 0;
     // arg and param as IExtendControlbar has them.
     virtual HRESULT ControlbarNotify(MMC_NOTIFY_TYPE event, LPARAM arg, LPARAM param, ControlbarSite& site,
