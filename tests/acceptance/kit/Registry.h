@@ -1,0 +1,34 @@
+#pragma once
+
+#include <windows.h>
+
+#include <optional>
+#include <string>
+
+// The machine-wide key of the product's family and the restart preference in it.
+namespace Acceptance::Registry
+{
+
+struct Value
+{
+    DWORD type = REG_SZ;
+    // Without the terminating null.
+    std::wstring text;
+
+    bool operator==(const Value&) const = default;
+};
+
+// Deletes HKEY_LOCAL_MACHINE\SOFTWARE\Brimlow.
+void reset();
+
+// "Restart Services" under HKEY_LOCAL_MACHINE\SOFTWARE\Brimlow\KV Tessaro; nothing when key or value is missing.
+std::optional<Value> restartPreference();
+void setRestartPreference(const Value& value);
+// Any bytes, for what is not a text.
+void setRestartPreference(DWORD type, const void* data, DWORD size);
+
+// A value's text anywhere below HKEY_CLASSES_ROOT or HKEY_LOCAL_MACHINE; nothing when it is missing. An empty name is
+// the default value.
+std::optional<std::wstring> text(HKEY root, const std::wstring& key, const std::wstring& name);
+
+} // namespace Acceptance::Registry

@@ -1,0 +1,55 @@
+#include "console/host/Registration.h"
+#include "kit/ConsoleTest.h"
+#include "kit/Watchdog.h"
+#include "kit/windows.h"
+
+#include <gtest/gtest.h>
+
+#include <ole2.h>
+
+#include <chrono>
+#include <cstdio>
+#include <filesystem>
+
+namespace
+{
+
+constexpr std::chrono::seconds longestTest{60};
+constexpr int notRegistered = 2;
+
+// Tests of another build's library would prove nothing about this one.
+bool isRegistered()
+{
+    using namespace Acceptance;
+    const std::filesystem::path expected = ServerFiles::programFolder() / L"TMgmt.dll";
+    const Console::ServerState server = Console::inspectServer(snapInClass);
+    if (!server.problem.empty())
+    {
+        std::printf("%s\n", narrow(server.problem).c_str());
+    }
+    std::error_code error;
+    if (server.problem.empty() && std::filesystem::equivalent(server.library, expected, error))
+    {
+        return true;
+    }
+    std::printf("The registered plug-in is \"%s\", not the one beside this program. Run: regsvr32 /s \"%s\"\n",
+                narrow(server.library).c_str(), narrow(expected.wstring()).c_str());
+    return false;
+}
+
+} // namespace
+
+extern "C" int wmain(int argumentCount, wchar_t** arguments)
+{
+    testing::InitGoogleTest(&argumentCount, arguments);
+    OleInitialize(nullptr);
+    int result = notRegistered;
+    if (isRegistered())
+    {
+        // Lives until the process ends: googletest owns its listeners.
+        testing::UnitTest::GetInstance()->listeners().Append(new Acceptance::Watchdog(longestTest));
+        result = RUN_ALL_TESTS();
+    }
+    OleUninitialize();
+    return result;
+}
