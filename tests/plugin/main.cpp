@@ -1,0 +1,16 @@
+#include "kit/Watchdog.h"
+
+#include <gtest/gtest.h>
+
+#include <ole2.h>
+
+extern "C" int wmain(int argumentCount, wchar_t** arguments)
+{
+    testing::InitGoogleTest(&argumentCount, arguments);
+    OleInitialize(nullptr);
+    // Lives until the process ends: googletest owns its listeners.
+    testing::UnitTest::GetInstance()->listeners().Append(new Acceptance::Watchdog(std::chrono::seconds{60}));
+    const int result = RUN_ALL_TESTS();
+    OleUninitialize();
+    return result;
+}
