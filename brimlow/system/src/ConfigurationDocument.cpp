@@ -86,6 +86,18 @@ class StringWriter final : public pugi::xml_writer
 
 } // namespace
 
+ConfigurationDocument::ConfigurationDocument()
+{
+    pugi::xml_node declaration = made(m_document.append_child(pugi::node_declaration));
+    declaration.set_name("xml");
+    setAttribute(declaration, "version", L"1.0");
+    setAttribute(declaration, "encoding", L"utf-8");
+    setText(m_document.append_child(pugi::node_pcdata), m_lineEnd);
+    const pugi::xml_node root = made(m_document.append_child(rootName));
+    setText(m_document.append_child(pugi::node_pcdata), m_lineEnd);
+    appendElement(root, sectionName);
+}
+
 void ConfigurationDocument::read(const String& path, std::string_view content)
 {
     m_hasByteOrderMark = hasUtf8ByteOrderMark(content);
@@ -163,14 +175,15 @@ void ConfigurationDocument::setValue(pugi::xml_node entry, const String& value)
 
 pugi::xml_node ConfigurationDocument::append(const String& key, const String& value)
 {
-    pugi::xml_node section = root().last_child();
+    pugi::xml_node root = m_document.document_element();
+    pugi::xml_node section = root.last_child();
     while (section && section.name() != std::string_view(sectionName))
     {
         section = section.previous_sibling();
     }
     if (!section)
     {
-        section = appendElement(root(), sectionName);
+        section = appendElement(root, sectionName);
     }
     const pugi::xml_node entry = appendElement(section, entryName);
     setAttribute(entry, keyName, key);
@@ -187,23 +200,6 @@ void ConfigurationDocument::remove(const pugi::xml_node& entry)
         parent.remove_child(before);
     }
     parent.remove_child(entry);
-}
-
-// Makes declaration and root element where the file was empty.
-pugi::xml_node ConfigurationDocument::root()
-{
-    if (const pugi::xml_node element = m_document.document_element())
-    {
-        return element;
-    }
-    pugi::xml_node declaration = made(m_document.append_child(pugi::node_declaration));
-    declaration.set_name("xml");
-    setAttribute(declaration, "version", L"1.0");
-    setAttribute(declaration, "encoding", L"utf-8");
-    setText(m_document.append_child(pugi::node_pcdata), m_lineEnd);
-    const pugi::xml_node element = made(m_document.append_child(rootName));
-    setText(m_document.append_child(pugi::node_pcdata), m_lineEnd);
-    return element;
 }
 
 // What goes before a new last child of parent.

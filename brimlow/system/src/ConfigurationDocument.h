@@ -15,7 +15,10 @@ namespace Core
 class ConfigurationDocument
 {
   public:
-    // path is for messages only. Throws FileFormatException.
+    // A document without entries.
+    ConfigurationDocument();
+
+    // Empty content is a document without entries. path is for messages only. Throws FormatException.
     void read(const String& path, std::string_view content);
     std::string write() const;
 
@@ -33,7 +36,6 @@ class ConfigurationDocument
 
   private:
     pugi::xml_node entryFrom(pugi::xml_node element, pugi::xml_node section) const;
-    pugi::xml_node root();
     pugi::xml_node appendElement(pugi::xml_node parent, const char* name) const;
     std::string indentationIn(const pugi::xml_node& parent) const;
 

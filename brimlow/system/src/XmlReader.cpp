@@ -166,9 +166,11 @@ class XmlReader
         }
     }
 
+    // offset is somewhere in the declaration.
     [[noreturn]] void refuseDocumentType(std::size_t offset) const
     {
-        fail(offset, L"a document type declaration (DOCTYPE) is not allowed in a configuration file. Remove it.");
+        fail(m_text.rfind("<!DOCTYPE", offset),
+             L"a document type declaration (DOCTYPE) is not allowed in a configuration file. Remove it.");
     }
 
     void checkNodes()
