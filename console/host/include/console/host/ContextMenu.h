@@ -26,6 +26,8 @@ struct MenuItem
     // Names a command for ContextMenu::run. From 1 up, unique in the whole menu, not the snap-in's own number.
     // 0 for submenus and separators.
     unsigned command = 0;
+    // The number that the snap-in gave the command; 0 for the console's own commands, submenus and separators.
+    long snapInCommand = 0;
     std::vector<MenuItem> children;
 };
 

@@ -16,6 +16,7 @@ namespace Console
 {
 
 class HostState;
+class NodeManagerRegistration;
 
 // How breaches of the rules are answered. Both complain.
 enum class Strictness
@@ -100,6 +101,7 @@ class Host
 
   private:
     std::unique_ptr<HostState> m_state;
+    std::unique_ptr<NodeManagerRegistration> m_nodeManager;
 };
 
 } // namespace Console

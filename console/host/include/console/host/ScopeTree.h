@@ -13,6 +13,7 @@
 namespace Console
 {
 
+class ImageStore;
 class ScopeStore;
 class SnapIn;
 
@@ -21,7 +22,7 @@ class SnapIn;
 class ScopeTree
 {
   public:
-    explicit ScopeTree(ScopeStore& store) : m_store(store) {}
+    ScopeTree(ScopeStore& store, const ImageStore& images) : m_store(store), m_images(images) {}
 
     bool contains(NodeId node) const;
     std::vector<NodeId> roots() const;
@@ -53,6 +54,7 @@ class ScopeTree
 
   private:
     ScopeStore& m_store;
+    const ImageStore& m_images;
 };
 
 } // namespace Console
