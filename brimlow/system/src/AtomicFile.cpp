@@ -3,7 +3,6 @@
 #include "FileOperations.h"
 #include "PathSeparators.h"
 
-#include <cstdint>
 #include <random>
 
 namespace Core::IO

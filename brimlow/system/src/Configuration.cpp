@@ -6,6 +6,8 @@
 #include "brimlow/system/AtomicFile.h"
 #include "brimlow/system/Exception.h"
 
+#include <cwchar>
+#include <iterator>
 #include <unordered_map>
 #include <vector>
 

@@ -5,6 +5,7 @@
 #include "brimlow/system/Exception.h"
 
 #include <new>
+#include <utility>
 
 namespace Core
 {

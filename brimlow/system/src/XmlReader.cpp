@@ -5,7 +5,7 @@
 #include "brimlow/system/Exception.h"
 
 #include <algorithm>
-#include <cstring>
+#include <new>
 #include <optional>
 #include <vector>
 

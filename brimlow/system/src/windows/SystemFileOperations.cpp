@@ -3,7 +3,8 @@
 #include "platform/handles.h"
 
 #include <algorithm>
-#include <limits>
+#include <cstddef>
+#include <cstdint>
 #include <vector>
 
 namespace Core

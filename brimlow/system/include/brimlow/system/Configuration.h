@@ -32,9 +32,9 @@ class Configuration
     ~Configuration();
 
     // Replaces the store by the file's content. An empty file, or one without appSettings, is an empty store.
-    // Throws FileNotFoundException, IOException, or FileFormatException with the position when the file is not
-    // well-formed, has another root element than "configuration", or holds a document type declaration (which is
-    // refused unread). After a failure the store is what it was.
+    // Throws FileNotFoundException or IOException; FileFormatException, with the position, when the file is not
+    // well-formed or holds a document type declaration (which is never followed); FormatException when its root element
+    // is not "configuration". After a failure the store is what it was.
     void loadFrom(const String& path);
 
     // Returns false, and leaves value alone, when there is no such key.
