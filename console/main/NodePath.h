@@ -1,0 +1,26 @@
+#pragma once
+
+#include "console/host/Host.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Console
+{
+
+// Names of nodes from the top down, the static node left out.
+using NodePath = std::vector<std::wstring>;
+
+// Names separated by backslashes; two backslashes are one that belongs to the name. An empty text is the empty path.
+// Nothing when a name is empty.
+std::optional<NodePath> parseNodePath(const std::wstring& text);
+
+// The way back: parseNodePath(formatNodePath(path)) is the path.
+std::wstring formatNodePath(const NodePath& path);
+
+// Follows the path below a node, expanding every node on the way. Names are compared without regard to case. none when
+// there is no such node; missing is then the path as far as it could not be followed.
+NodeId findNode(const ScopeTree& tree, NodeId top, const NodePath& path, NodePath& missing);
+
+} // namespace Console

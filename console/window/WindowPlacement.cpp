@@ -1,0 +1,81 @@
+#include "WindowPlacement.h"
+
+#include <algorithm>
+#include <sstream>
+
+namespace Console
+{
+
+namespace
+{
+
+// Below this a window cannot be used.
+constexpr LONG smallestWidth = 200;
+constexpr LONG smallestHeight = 150;
+
+LONGLONG commonArea(const RECT& a, const RECT& b)
+{
+    RECT common{};
+    return IntersectRect(&common, &a, &b)
+               ? static_cast<LONGLONG>(common.right - common.left) * (common.bottom - common.top)
+               : 0;
+}
+
+BOOL CALLBACK addMonitor(HMONITOR monitor, HDC, RECT*, LPARAM lParam)
+{
+    auto& areas = *reinterpret_cast<std::vector<RECT>*>(lParam);
+    MONITORINFO information{};
+    information.cbSize = sizeof information;
+    if (GetMonitorInfoW(monitor, &information))
+    {
+        const bool primary = (information.dwFlags & MONITORINFOF_PRIMARY) != 0;
+        areas.insert(primary ? areas.begin() : areas.end(), information.rcWork);
+    }
+    return TRUE;
+}
+
+} // namespace
+
+std::wstring WindowPlacement::toText() const
+{
+    std::wostringstream text;
+    text << normal.left << L' ' << normal.top << L' ' << normal.right << L' ' << normal.bottom << L' ' << maximized
+         << L' ' << treeWidth << L' ' << toolbar << L' ' << statusBar;
+    return text.str();
+}
+
+std::optional<WindowPlacement> WindowPlacement::fromText(const std::wstring& text)
+{
+    WindowPlacement placement;
+    std::wistringstream numbers(text);
+    numbers >> placement.normal.left >> placement.normal.top >> placement.normal.right >> placement.normal.bottom >>
+        placement.maximized >> placement.treeWidth >> placement.toolbar >> placement.statusBar;
+    const bool sensible = placement.normal.right - placement.normal.left >= smallestWidth &&
+                          placement.normal.bottom - placement.normal.top >= smallestHeight && placement.treeWidth >= 0;
+    return numbers && sensible ? std::optional(placement) : std::nullopt;
+}
+
+RECT keepOnScreen(const RECT& window, const std::vector<RECT>& workAreas)
+{
+    const RECT& area =
+        *std::max_element(workAreas.begin(), workAreas.end(),
+                          [&](const RECT& a, const RECT& b) { return commonArea(window, a) < commonArea(window, b); });
+    const LONG width = std::min(window.right - window.left, area.right - area.left);
+    const LONG height = std::min(window.bottom - window.top, area.bottom - area.top);
+    const LONG left = std::clamp(window.left, area.left, area.right - width);
+    const LONG top = std::clamp(window.top, area.top, area.bottom - height);
+    return {left, top, left + width, top + height};
+}
+
+std::vector<RECT> workAreas()
+{
+    std::vector<RECT> areas;
+    EnumDisplayMonitors(nullptr, nullptr, addMonitor, reinterpret_cast<LPARAM>(&areas));
+    if (areas.empty())
+    {
+        areas.push_back({0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)});
+    }
+    return areas;
+}
+
+} // namespace Console

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <windows.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Console
+{
+
+// Where the main window was, for the next time.
+struct WindowPlacement
+{
+    RECT normal{}; // not maximised, on the screen
+    bool maximized = false;
+    int treeWidth = 0; // at 96 dots per inch
+    bool toolbar = true;
+    bool statusBar = true;
+
+    // As one line of numbers and back. Nothing when the text is not such a line.
+    std::wstring toText() const;
+    static std::optional<WindowPlacement> fromText(const std::wstring& text);
+};
+
+// The same window where it can be seen and its caption reached: moved, and made smaller if need be, into the work area
+// that it covers most of (the first one when it covers none). workAreas is not empty.
+RECT keepOnScreen(const RECT& window, const std::vector<RECT>& workAreas);
+
+// Of all monitors, the primary one first.
+std::vector<RECT> workAreas();
+
+} // namespace Console

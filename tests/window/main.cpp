@@ -1,0 +1,17 @@
+#include <gtest/gtest.h>
+
+#include <windows.h>
+
+#include <commctrl.h>
+#include <ole2.h>
+
+extern "C" int wmain(int argumentCount, wchar_t** arguments)
+{
+    testing::InitGoogleTest(&argumentCount, arguments);
+    OleInitialize(nullptr);
+    const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES};
+    InitCommonControlsEx(&controls);
+    const int result = RUN_ALL_TESTS();
+    OleUninitialize();
+    return result;
+}
