@@ -15,7 +15,7 @@ std::wstring formatTime(const wchar_t* format)
 {
     SYSTEMTIME now;
     GetLocalTime(&now);
-    std::array<wchar_t, 32> text{};
+    std::array<wchar_t, 64> text{};
     std::swprintf(text.data(), text.size(), format, now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute,
                   now.wSecond);
     return text.data();

@@ -176,7 +176,8 @@ std::wstring helpText()
     {
         text += helpRow(row.name, row.help);
     }
-    text += L"\nSetting the event \"Global\\KVTessaroStandInEnd\" ends the service whatever its switches.\n\n"
+    text += L"\nSetting the event \"Global\\KVTessaroStandInEnd\" ends the service whatever its switches,\nand \"run\" "
+            L"as well.\n\n"
             L"Exit codes: 0 done; 1 it failed; 2 the arguments are not understood; 3 the service is not in the state\n"
             L"asked for (status: not running); 4 the service is not installed.";
     return text;

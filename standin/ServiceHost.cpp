@@ -48,6 +48,9 @@ void ServiceHost::run()
 void WINAPI ServiceHost::serviceMain(DWORD, LPWSTR*) noexcept
 {
     theHost->serve();
+    // Not left to the dispatcher, which takes its time: Wine's service manager refuses to start the service again
+    // (errors 1056 and 1359) as long as the stopped process is still there.
+    TerminateProcess(GetCurrentProcess(), 0);
 }
 
 DWORD WINAPI ServiceHost::handleControl(DWORD control, DWORD, void*, void* host) noexcept

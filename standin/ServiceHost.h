@@ -22,8 +22,8 @@ class ServiceHost
     ServiceHost& operator=(const ServiceHost&) = delete;
     ~ServiceHost();
 
-    // Returns when the service has stopped. Throws Core::IOException when the process was not started by the service
-    // manager.
+    // Serves; the process ends as soon as the service has stopped. Throws Core::IOException when the process was not
+    // started by the service manager.
     void run();
 
   private:

@@ -1,3 +1,4 @@
+#include "EndEvent.h"
 #include "Options.h"
 #include "Server.h"
 #include "ServiceController.h"
@@ -76,10 +77,11 @@ void runInConsole()
 {
     consoleStop.reset(CreateEventW(nullptr, TRUE, FALSE, nullptr));
     SetConsoleCtrlHandler(&stopConsole, TRUE);
+    const platform::KernelHandle end = StandIn::EndEvent::create();
     const StandIn::ServerSettings settings = StandIn::ServerSettings::load();
     StandIn::Server server(settings);
     say(L"Listening on " + settings.address + L", port " + std::to_wstring(settings.port) + L"; Ctrl+C stops");
-    server.serve({consoleStop.get()});
+    server.serve({consoleStop.get(), end.get()});
 }
 
 int execute(const StandIn::Options& options)
