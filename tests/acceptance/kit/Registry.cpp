@@ -25,11 +25,11 @@ std::optional<Value> read(HKEY root, const wchar_t* keyName, const wchar_t* name
     }
     value.text.resize((size + 1) / sizeof(wchar_t));
     RegQueryValueExW(key.get(), name, nullptr, nullptr, reinterpret_cast<BYTE*>(value.text.data()), &size);
-    // Exactly one terminating null belongs to a stored text.
-    if (!value.text.empty() && value.text.back() == L'\0')
+    if (value.text.empty() || value.text.back() != L'\0')
     {
-        value.text.pop_back();
+        throw std::runtime_error("a stored text without its terminating null");
     }
+    value.text.pop_back();
     return value;
 }
 
@@ -60,6 +60,16 @@ void setRestartPreference(DWORD type, const void* data, DWORD size)
     if (status != ERROR_SUCCESS)
     {
         throw std::runtime_error("cannot set the restart preference");
+    }
+}
+
+void makeUnwritable()
+{
+    platform::RegistryKey key;
+    if (RegCreateKeyExW(HKEY_LOCAL_MACHINE, familyKey, 0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS, nullptr,
+                        key.put(), nullptr) != ERROR_SUCCESS)
+    {
+        throw std::runtime_error("cannot make the registry key of the family");
     }
 }
 
