@@ -22,8 +22,7 @@ std::wstring readServer(const CLSID& clsid, REGSAM registryView)
     // Expands environment variables where the value says so.
     std::array<wchar_t, 1024> text{};
     DWORD size = static_cast<DWORD>(text.size() * sizeof(wchar_t));
-    if (RegGetValueW(key.get(), nullptr, nullptr, RRF_RT_REG_SZ | RRF_RT_REG_EXPAND_SZ, nullptr, text.data(), &size) !=
-        ERROR_SUCCESS)
+    if (RegGetValueW(key.get(), nullptr, nullptr, RRF_RT_REG_SZ, nullptr, text.data(), &size) != ERROR_SUCCESS)
     {
         return {};
     }
