@@ -2,6 +2,7 @@
 
 #include "ViewState.h"
 #include "faceCount.h"
+#include "platform/com.h"
 
 namespace Console
 {
@@ -35,7 +36,7 @@ bool Component::initialize()
     {
         return false;
     }
-    m_component.Attach(made);
+    m_component = platform::takeReference(made);
     const HRESULT initialized =
         call(L"IComponent::Initialize", noArguments, [&] { return m_component->Initialize(m_console->console()); });
     return SUCCEEDED(initialized);

@@ -5,6 +5,7 @@
 #include "console/host/AboutInformation.h"
 #include "console/host/Registration.h"
 #include "faceCount.h"
+#include "platform/com.h"
 
 #include <algorithm>
 
@@ -102,7 +103,7 @@ bool Instance::load()
         return fail(server.library + L" did not create it (" + resultName(created) +
                     L"). Reinstall the snap-in or ask its maker.");
     }
-    m_data.Attach(made);
+    m_data = platform::takeReference(made);
     m_console = new ConsoleObject({&m_host, this, m_number, 0}, nullptr);
     const HRESULT initialized = call(0, L"IComponentData::Initialize", noArguments,
                                      [&] { return m_data->Initialize(static_cast<IUnknown*>(m_console.Get())); });

@@ -3,6 +3,7 @@
 #include "tmgmt/snapin/guard.h"
 
 #include "brimlow/system/Exception.h"
+#include "platform/com.h"
 
 #include <gtest/gtest.h>
 
@@ -60,12 +61,7 @@ class RootItemTest : public testing::Test
         return root->OnExpand(true, 1, console);
     }
 
-    ComPtr<TreeConsole> m_tree = []
-    {
-        ComPtr<TreeConsole> tree;
-        tree.Attach(new TreeConsole);
-        return tree;
-    }();
+    ComPtr<TreeConsole> m_tree = platform::takeReference(new TreeConsole);
 };
 
 TEST_F(RootItemTest, insertsItsSevenChildren)

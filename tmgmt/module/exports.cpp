@@ -3,6 +3,7 @@
 #include <olectl.h>
 
 #include "objectMap.h"
+#include "platform/com.h"
 #include "tmgmt/resources/ids.h"
 #include "tmgmt/snapin/Registrar.h"
 #include "tmgmt/snapin/TypeLibrary.h"
@@ -63,9 +64,7 @@ STDAPI DllGetClassObject(REFCLSID classId, REFIID iid, void** object)
             {
                 if (entry.classId == classId)
                 {
-                    Microsoft::WRL::ComPtr<ClassFactory> factory;
-                    factory.Attach(new ClassFactory(entry.create));
-                    return factory->QueryInterface(iid, object);
+                    return platform::takeReference(new ClassFactory(entry.create))->QueryInterface(iid, object);
                 }
             }
             return CLASS_E_CLASSNOTAVAILABLE;

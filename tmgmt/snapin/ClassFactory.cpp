@@ -1,6 +1,6 @@
 #include "tmgmt/snapin/ClassFactory.h"
 
-#include <wrl/client.h>
+#include "platform/com.h"
 
 #include "tmgmt/snapin/guard.h"
 
@@ -21,9 +21,7 @@ HRESULT ClassFactory::CreateInstance(IUnknown* outer, REFIID iid, void** object)
             {
                 return CLASS_E_NOAGGREGATION;
             }
-            Microsoft::WRL::ComPtr<IUnknown> made;
-            made.Attach(m_create());
-            return made->QueryInterface(iid, object);
+            return platform::takeReference(m_create())->QueryInterface(iid, object);
         });
 }
 

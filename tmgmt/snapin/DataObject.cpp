@@ -1,5 +1,6 @@
 #include "tmgmt/snapin/DataObject.h"
 
+#include "platform/com.h"
 #include "platform/handles.h"
 
 #include <cstring>
@@ -13,9 +14,7 @@ namespace TMgmt
 
 Microsoft::WRL::ComPtr<SnapInDataObject> SnapInDataObject::create()
 {
-    Microsoft::WRL::ComPtr<SnapInDataObject> object;
-    object.Attach(new SnapInDataObject);
-    return object;
+    return platform::takeReference(new SnapInDataObject);
 }
 
 void SnapInDataObject::select(std::vector<Core::SmartPtr<CSnapInItem>> items, DATA_OBJECT_TYPES type)
