@@ -20,7 +20,8 @@ const wchar_t* const usage = LR"(TConsole - a console window for management-cons
 
   --snapin {CLSID}   the snap-in to open (any that is registered with the management console)
   --select PATH      names of nodes below the top node, separated by backslashes: "Engine Settings\Private Fonts";
-                     a backslash inside a name is written twice. With --list or --json only that part is printed.
+                     a backslash inside a name is written ^\, a caret before one ^^. With --list or --json only that
+                     part is printed.
   --row TEXT         selects the row whose first column is TEXT
   --size WxH         width and height of the window, in pixels
   --command NAME     runs a command of the row's (without --row: of the node's) context menu: its number or its text,

@@ -1,5 +1,7 @@
 #include "NodeListing.h"
 
+#include "ShownColumns.h"
+
 namespace Console
 {
 
@@ -16,7 +18,7 @@ NodeListing readNode(const ScopeTree& tree, const View& view, NodeId node)
         listing.message = view.message();
         return listing;
     }
-    const std::vector<Column> columns = view.columns();
+    const std::vector<Column> columns = shownColumns(view);
     for (const Column& column : columns)
     {
         listing.columns.push_back({column.title, column.width});

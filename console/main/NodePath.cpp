@@ -5,6 +5,19 @@
 namespace Console
 {
 
+namespace
+{
+
+constexpr wchar_t separator = L'\\';
+constexpr wchar_t escape = L'^';
+
+bool needsEscape(wchar_t c)
+{
+    return c == separator || c == escape;
+}
+
+} // namespace
+
 std::optional<NodePath> parseNodePath(const std::wstring& text)
 {
     NodePath path;
@@ -15,19 +28,19 @@ std::optional<NodePath> parseNodePath(const std::wstring& text)
     std::wstring name;
     for (std::size_t i = 0; i < text.size(); ++i)
     {
-        if (text[i] != L'\\')
+        const bool escapes = text[i] == escape && i + 1 < text.size() && needsEscape(text[i + 1]);
+        if (escapes)
         {
-            name += text[i];
+            name += text[++i];
         }
-        else if (i + 1 < text.size() && text[i + 1] == L'\\')
-        {
-            name += L'\\';
-            ++i;
-        }
-        else
+        else if (text[i] == separator)
         {
             path.push_back(std::move(name));
             name.clear();
+        }
+        else
+        {
+            name += text[i];
         }
     }
     path.push_back(std::move(name));
@@ -45,11 +58,15 @@ std::wstring formatNodePath(const NodePath& path)
     {
         if (!text.empty())
         {
-            text += L'\\';
+            text += separator;
         }
         for (const wchar_t c : name)
         {
-            text.append(c == L'\\' ? 2 : 1, c);
+            if (needsEscape(c))
+            {
+                text += escape;
+            }
+            text += c;
         }
     }
     return text;

@@ -24,13 +24,18 @@ void ConsoleWindows::run(const std::function<bool()>& done)
     MSG message{};
     while (!m_windows.empty() && !(done && done()) && GetMessageW(&message, nullptr, 0, 0) > 0)
     {
-        if (!translate(message))
-        {
-            TranslateMessage(&message);
-            DispatchMessageW(&message);
-        }
-        std::erase_if(m_windows, [](const auto& window) { return window->handle() == nullptr; });
+        serve(message);
     }
+}
+
+void ConsoleWindows::serve(MSG& message)
+{
+    if (!translate(message))
+    {
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+    std::erase_if(m_windows, [](const auto& window) { return window->handle() == nullptr; });
 }
 
 bool ConsoleWindows::translate(MSG& message) const

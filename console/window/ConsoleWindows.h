@@ -22,6 +22,9 @@ class ConsoleWindows
     // Serves messages until the last window is closed, or done says so (asked after every message).
     void run(const std::function<bool()>& done = {});
 
+    // Serves one message, as run does.
+    void serve(MSG& message);
+
   private:
     bool translate(MSG& message) const;
 

@@ -1,5 +1,7 @@
 #include "History.h"
 
+#include <utility>
+
 namespace Console
 {
 
@@ -28,21 +30,24 @@ void History::visit(NodeId node)
     m_place = m_nodes.size() - 1;
 }
 
-void History::forget(NodeId node)
+void History::forget(NodeId gone)
 {
-    for (std::size_t i = m_nodes.size(); i-- > 0;)
+    std::vector<NodeId> kept;
+    std::size_t place = 0;
+    for (std::size_t i = 0; i < m_nodes.size(); ++i)
     {
-        // What becomes its own neighbour goes with it.
-        const bool repeated = i > 0 && i < m_nodes.size() && m_nodes[i] == m_nodes[i - 1];
-        if (m_nodes[i] == node || repeated)
+        // What becomes its own neighbour is one.
+        if (m_nodes[i] != gone && (kept.empty() || kept.back() != m_nodes[i]))
         {
-            m_nodes.erase(m_nodes.begin() + static_cast<std::ptrdiff_t>(i));
-            if (m_place >= i && m_place > 0)
-            {
-                --m_place;
-            }
+            kept.push_back(m_nodes[i]);
+        }
+        if (i <= m_place)
+        {
+            place = kept.empty() ? 0 : kept.size() - 1;
         }
     }
+    m_nodes = std::move(kept);
+    m_place = place;
 }
 
 NodeId History::goBack()

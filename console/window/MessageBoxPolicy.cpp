@@ -54,6 +54,31 @@ bool isMessageBox(HWND window)
     return answers;
 }
 
+bool isButton(HWND window)
+{
+    return window != nullptr && classOf(window) == L"Button";
+}
+
+// The number of the button that Enter presses: the one with the focus; in a box that could not get the focus the
+// one that is drawn as the default.
+int defaultAnswer(HWND box)
+{
+    const HWND focus = GetFocus();
+    if (IsChild(box, focus) && isButton(focus))
+    {
+        return GetDlgCtrlID(focus);
+    }
+    for (HWND child = GetWindow(box, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT))
+    {
+        const LONG_PTR style = GetWindowLongPtrW(child, GWL_STYLE);
+        if (isButton(child) && (style & WS_VISIBLE) != 0 && (style & BS_TYPEMASK) == BS_DEFPUSHBUTTON)
+        {
+            return GetDlgCtrlID(child);
+        }
+    }
+    return IDOK;
+}
+
 } // namespace
 
 MessageBoxPolicy::MessageBoxPolicy(Report report)
@@ -74,32 +99,37 @@ MessageBoxPolicy::~MessageBoxPolicy()
 
 LRESULT CALLBACK MessageBoxPolicy::hook(int code, WPARAM wParam, LPARAM lParam) noexcept
 {
-    if (code == HCBT_ACTIVATE && current != nullptr)
+    const auto window = reinterpret_cast<HWND>(wParam);
+    if (code == HCBT_ACTIVATE && current != nullptr && window != current->m_last)
     {
-        try
-        {
-            current->answer(reinterpret_cast<HWND>(wParam));
-        }
-        catch (...)
-        {
-            OutputDebugStringW(L"A message box could not be reported.\n");
-        }
+        // The box is not finished while it is activated: not even its default button is known. A timer's message comes
+        // when everything else is done.
+        current->m_last = window;
+        SetTimer(window, reinterpret_cast<UINT_PTR>(current), 0, shown);
     }
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
+void CALLBACK MessageBoxPolicy::shown(HWND window, UINT, UINT_PTR timer, DWORD) noexcept
+{
+    KillTimer(window, timer);
+    try
+    {
+        if (current != nullptr && isMessageBox(window))
+        {
+            current->answer(window);
+        }
+    }
+    catch (...)
+    {
+        OutputDebugStringW(L"A message box could not be reported.\n");
+    }
+}
+
 void MessageBoxPolicy::answer(HWND box)
 {
-    // A box is activated again when another window of the thread goes.
-    if (box == m_answered || !isMessageBox(box))
-    {
-        return;
-    }
-    m_answered = box;
-    const LRESULT button = SendMessageW(box, DM_GETDEFID, 0, 0);
-    const int answer = HIWORD(button) == DC_HASDEFID ? LOWORD(button) : IDOK;
-    // Posted, so that it comes after the box's own start, even if the report fails.
-    PostMessageW(box, WM_COMMAND, static_cast<WPARAM>(answer), 0);
+    // Posted, and before the report: the box closes even if that fails.
+    PostMessageW(box, WM_COMMAND, static_cast<WPARAM>(defaultAnswer(box)), 0);
     m_report(textOf(box), textOf(GetDlgItem(box, textControl)));
 }
 

@@ -22,11 +22,12 @@ class MessageBoxPolicy
 
   private:
     static LRESULT CALLBACK hook(int code, WPARAM wParam, LPARAM lParam) noexcept;
+    static void CALLBACK shown(HWND window, UINT message, UINT_PTR timer, DWORD time) noexcept;
     void answer(HWND box);
 
     Report m_report;
     HHOOK m_hook;
-    HWND m_answered = nullptr;
+    HWND m_last = nullptr; // activated; a window is activated again when one over it closes
 };
 
 } // namespace Console

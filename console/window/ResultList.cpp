@@ -3,6 +3,7 @@
 #include "Dpi.h"
 #include "Failure.h"
 #include "Restore.h"
+#include "ShownColumns.h"
 
 #include <uxtheme.h>
 #include <windowsx.h>
@@ -80,7 +81,7 @@ void ResultList::takeColumns()
     while (ListView_DeleteColumn(m_control, 0))
     {
     }
-    const std::vector<Column>& columns = m_view.columns();
+    const std::vector<Column> columns = shownColumns(m_view);
     for (int i = 0; i < static_cast<int>(columns.size()); ++i)
     {
         const Column& column = columns[static_cast<std::size_t>(i)];

@@ -261,7 +261,8 @@ void ViewController::nodeOpening(NodeId opening)
 
 bool ViewController::nodeRenamable(NodeId renamed)
 {
-    return !m_acting && m_treeFocused && renamed == m_view->selectedNode() && m_view->verb(MMC_VERB_RENAME).enabled;
+    const bool wanted = !m_acting && m_treeFocused && renamed == m_view->selectedNode();
+    return m_renameAsked || (wanted && m_view->verb(MMC_VERB_RENAME).enabled);
 }
 
 void ViewController::nodeRenamed(NodeId renamed, const std::wstring& name)
@@ -319,7 +320,8 @@ void ViewController::rowActivated(int row)
 
 bool ViewController::rowRenamable(int row)
 {
-    return !m_acting && !m_treeFocused && m_view->rowSelected(row) && m_view->verb(MMC_VERB_RENAME).enabled;
+    const bool wanted = !m_acting && !m_treeFocused && m_view->rowSelected(row);
+    return m_renameAsked || (wanted && m_view->verb(MMC_VERB_RENAME).enabled);
 }
 
 void ViewController::rowRenamed(int row, const std::wstring& name)
@@ -391,12 +393,22 @@ void ViewController::expandAsked(NodeId asked, bool expand)
 
 void ViewController::renameNodeAsked(NodeId asked)
 {
-    later([this, asked] { m_tree->editName(asked); });
+    later(
+        [this, asked]
+        {
+            const Restore allowed(m_renameAsked, true);
+            m_tree->editName(asked);
+        });
 }
 
 void ViewController::renameRowAsked(int row)
 {
-    later([this, row] { m_results->list().editName(row); });
+    later(
+        [this, row]
+        {
+            const Restore allowed(m_renameAsked, true);
+            m_results->list().editName(row);
+        });
 }
 
 void ViewController::nodeInserted(NodeId inserted)

@@ -151,6 +151,7 @@ class ViewController final : private TreePane::Owner,
     bool m_acting = false;
     bool m_menuOpen = false;
     bool m_selectionPending = false;
+    bool m_renameAsked = false; // by the host, not by a click of the user
     bool m_treeFocused = true;
     bool m_toldTreeFocused = true;
 };

@@ -23,7 +23,7 @@ class MessageBoxes : public testing::Test
 // A dialog with a text and an OK button, as a snap-in's own dialog may look.
 struct ClosingDialog
 {
-    static INT_PTR CALLBACK procedure(HWND dialog, UINT message, WPARAM, LPARAM)
+    static INT_PTR CALLBACK procedure(HWND dialog, UINT message, WPARAM wParam, LPARAM)
     {
         if (message == WM_INITDIALOG)
         {
@@ -34,9 +34,14 @@ struct ClosingDialog
             PostMessageW(dialog, WM_APP, 0, 0);
             return TRUE;
         }
-        if (message == WM_COMMAND || message == WM_APP)
+        if (message == WM_APP)
         {
-            EndDialog(dialog, message == WM_COMMAND ? 1 : 7);
+            EndDialog(dialog, 7);
+            return TRUE;
+        }
+        if (message == WM_COMMAND && LOWORD(wParam) == IDOK)
+        {
+            EndDialog(dialog, IDOK);
             return TRUE;
         }
         return FALSE;

@@ -1,3 +1,5 @@
+#include "host/HostTest.h"
+
 #include <gtest/gtest.h>
 
 #include <windows.h>
@@ -11,7 +13,11 @@ extern "C" int wmain(int argumentCount, wchar_t** arguments)
     OleInitialize(nullptr);
     const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES};
     InitCommonControlsEx(&controls);
-    const int result = RUN_ALL_TESTS();
+    int result = 0;
+    {
+        const ForeignRegistration registration;
+        result = RUN_ALL_TESTS();
+    }
     OleUninitialize();
     return result;
 }
