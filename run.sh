@@ -12,6 +12,7 @@ headless=
 use_display
 trap stop_wine EXIT
 use_prefix "$PWD/out/prefix"
+keep_services
 
 data=$WINEPREFIX/drive_c/ProgramData/Brimlow
 if [ ! -e "$data" ]; then

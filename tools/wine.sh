@@ -1,5 +1,6 @@
 # To be sourced. How this project runs Windows programs: Wine, 64-bit, in a private prefix, on a display.
 #   use_prefix FOLDER   makes the prefix if it is not there and works in it
+#   keep_services       keeps the prefix's services running between programs
 #   use_display         takes the display of the session, or starts one without a screen
 
 export WINEARCH=win64 WINEDEBUG=${WINEDEBUG:--all}
@@ -27,6 +28,11 @@ use_prefix() {
   wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1
   wineserver -w
   touch "$WINEPREFIX/ready"
+}
+
+# Services end with the last ordinary program of a prefix. This one waits for input that never comes, until stop_wine.
+keep_services() {
+  coproc KEEPER { exec wine cmd >/dev/null 2>&1; }
 }
 
 # A Windows path for a Unix one.

@@ -1,0 +1,49 @@
+#!/usr/bin/env bash
+# screenshots.sh FOLDER: pictures of the console with every node selected and of every dialog, as PNG files. Works in
+# the prefix of ./run.sh, which has the sample data, the plug-in and the service.
+set -euo pipefail
+target=$(mkdir -p "$1" && cd "$1" && pwd)
+cd "$(dirname "$0")/.."
+
+# shellcheck source=tools/wine.sh
+. tools/wine.sh
+own_display=
+if [ -z "${DISPLAY:-}" ]; then
+  own_display=yes
+  use_display
+fi
+use_prefix "$PWD/out/prefix"
+console=$(windows_path out/windows-x64/TConsole.exe)
+
+# picture NAME ARGUMENTS…: inside a desktop of Wine's own, so that the frame of a window is in the picture too.
+picture() {
+  local name=$1
+  shift
+  timeout 120 wine explorer "/desktop=$name,1280x900" "$console" "$@" --size 1000x640 \
+    --screenshot "$(windows_path "$target")\\$name.png" >/dev/null 2>&1 || true
+  [ -e "$target/$name.png" ] || { echo "No picture of $name" >&2; exit 1; }
+  echo "  $name.png"
+}
+
+echo "Taking pictures into $target"
+rm -f "$target"/*.png
+listener='Engine Settings\Listener Configuration'
+encoder='Engine Settings\AFP Encoder'
+picture root
+picture about --select 'About KV Tessaro'
+picture hot-folders --select 'Hot Folders'
+picture server-templates --select 'Server Templates'
+picture users --select 'Users'
+picture server-certificates --select 'Server Certificates'
+picture engine-settings --select 'Engine Settings'
+picture listener-configuration --select "$listener"
+picture afp-encoder --select "$encoder"
+picture private-fonts --select 'Engine Settings\Private Fonts'
+picture log --select 'Log'
+picture log-files --select 'Log\Log Files'
+picture dialog-edit-property --select "$listener" --row Port --command 1000
+picture dialog-edit-bool-property --select "$encoder" --row 'Convert to Grayscale' --command 1000
+picture dialog-edit-enum-property --select "$encoder" --row 'Fonts Used' --command 1000
+picture dialog-edit-enum-property-three --select "$encoder" --row 'Grayscale Method' --command 1000
+picture dialog-edit-log-level --select 'Log' --row 'Log Level' --command 1000
+[ -z "$own_display" ] || stop_wine
