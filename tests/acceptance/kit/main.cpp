@@ -16,6 +16,21 @@ namespace
 
 constexpr std::chrono::seconds longestTest{60};
 constexpr int notRegistered = 2;
+constexpr int crashed = 87;
+
+// Without it a debugger would come up and keep the run for ever.
+LONG WINAPI endCrashed(EXCEPTION_POINTERS* fault) noexcept
+{
+    const EXCEPTION_RECORD& record = *fault->ExceptionRecord;
+    HMODULE module = nullptr;
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                       static_cast<LPCWSTR>(record.ExceptionAddress), &module);
+    std::printf("CRASH: exception 0x%08lX at %p, in the module at %p\n", record.ExceptionCode, record.ExceptionAddress,
+                static_cast<void*>(module));
+    std::fflush(stdout);
+    TerminateProcess(GetCurrentProcess(), crashed);
+    return EXCEPTION_EXECUTE_HANDLER;
+}
 
 // Tests of another build's library would prove nothing about this one.
 bool isRegistered()
@@ -42,6 +57,7 @@ bool isRegistered()
 extern "C" int wmain(int argumentCount, wchar_t** arguments)
 {
     testing::InitGoogleTest(&argumentCount, arguments);
+    SetUnhandledExceptionFilter(endCrashed);
     OleInitialize(nullptr);
     int result = notRegistered;
     if (isRegistered())
