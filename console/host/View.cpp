@@ -3,6 +3,7 @@
 #include "ColumnStore.h"
 #include "MenuSession.h"
 #include "ViewState.h"
+#include "describe.h"
 
 namespace Console
 {
@@ -82,6 +83,22 @@ void View::setColumnWidth(int column, int width)
         pane.columns[static_cast<std::size_t>(column)].width = width;
         m_state->host().columns->saveWidths(m_state->current()->instance().clsid(), pane);
     }
+}
+
+std::wstring View::columnSet() const
+{
+    if (m_state->current() == nullptr || m_state->pane.kind != Pane::list)
+    {
+        return {};
+    }
+    constexpr wchar_t digits[] = L"0123456789ABCDEF";
+    std::wstring name = describe(m_state->current()->instance().clsid()) + L" ";
+    for (const BYTE byte : m_state->pane.columnSet)
+    {
+        name += digits[byte >> 4];
+        name += digits[byte & 0xF];
+    }
+    return name;
 }
 
 void View::clickColumn(int column)

@@ -82,7 +82,8 @@ MainWindow::MainWindow(Host& host, Options options)
                      arrange();
                  })
 {
-    m_controller = std::make_unique<ViewController>(host, m_options.top, static_cast<ViewController::Frame&>(*this));
+    m_controller = std::make_unique<ViewController>(host, m_options.top, m_options.remember,
+                                                    static_cast<ViewController::Frame&>(*this));
     setDpi(m_dpi);
     const RECT& place = m_placement.normal;
     SetWindowPos(handle(), nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,

@@ -287,7 +287,9 @@ LRESULT ResultList::handleNotification(NMHDR& header)
 
 LRESULT ResultList::handleHeaderNotification(NMHDR& header)
 {
-    if (header.code == HDN_ITEMCHANGEDW && !m_silent)
+    // Wine's list passes on only the end of a drag; that of Windows also every change on the way and the width that a
+    // double click fits.
+    if ((header.code == HDN_ITEMCHANGEDW || header.code == HDN_ENDTRACKW) && !m_silent)
     {
         const auto& change = reinterpret_cast<const NMHEADERW&>(header);
         if (change.pitem != nullptr && (change.pitem->mask & HDI_WIDTH) != 0)

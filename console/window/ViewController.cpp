@@ -1,5 +1,6 @@
 #include "ViewController.h"
 
+#include "ColumnMemory.h"
 #include "MenuPresenter.h"
 #include "Restore.h"
 #include "WaitCursor.h"
@@ -9,9 +10,10 @@
 namespace Console
 {
 
-ViewController::ViewController(Host& host, NodeId top, Frame& frame)
+ViewController::ViewController(Host& host, NodeId top, bool keepWidths, Frame& frame)
     : m_host(host),
       m_frame(frame),
+      m_keepWidths(keepWidths),
       m_view(host.openView(*this)),
       m_tree(std::make_unique<TreePane>(frame.window(), host.tree(), top, static_cast<TreePane::Owner&>(*this))),
       m_results(std::make_unique<DetailsPane>(frame.window(), *m_view, static_cast<ResultList::Owner&>(*this)))
@@ -116,6 +118,7 @@ void ViewController::takeChanges()
     }
     if ((changes & (pane | columns)) != 0)
     {
+        applyKeptWidths();
         m_results->list().takeColumns();
     }
     if ((changes & (pane | rows | columns)) != 0)
@@ -349,6 +352,34 @@ void ViewController::columnClicked(int column)
 void ViewController::columnResized(int column, int width)
 {
     m_view->setColumnWidth(column, width);
+    if (m_keepWidths && !std::exchange(m_widthsPending, true))
+    {
+        later([this] { saveWidths(); });
+    }
+}
+
+void ViewController::saveWidths()
+{
+    m_widthsPending = false;
+    std::vector<int> widths;
+    for (const Column& column : m_view->columns())
+    {
+        widths.push_back(column.width);
+    }
+    rememberWidths(m_view->columnSet(), widths);
+}
+
+void ViewController::applyKeptWidths()
+{
+    const std::vector<Column>& columns = m_view->columns();
+    const auto widths = m_keepWidths ? rememberedWidths(m_view->columnSet(), columns.size()) : std::nullopt;
+    for (std::size_t i = 0; widths && i < columns.size(); ++i)
+    {
+        if (!columns[i].hidden && columns[i].width != (*widths)[i])
+        {
+            m_view->setColumnWidth(static_cast<int>(i), (*widths)[i]);
+        }
+    }
 }
 
 void ViewController::rowMenuWanted(POINT screen)

@@ -51,7 +51,8 @@ class ViewController final : private TreePane::Owner,
     static constexpr UINT pendingMessage = WM_APP + 1;
 
     // top: as for TreePane. frame is lent.
-    ViewController(Host& host, NodeId top, Frame& frame);
+    // keepWidths: column widths are taken from the user's last run and kept for the next.
+    ViewController(Host& host, NodeId top, bool keepWidths, Frame& frame);
     ViewController(const ViewController&) = delete;
     ViewController& operator=(const ViewController&) = delete;
     ~ViewController() override;
@@ -137,10 +138,13 @@ class ViewController final : private TreePane::Owner,
     void focusMoved(bool tree);
     void tellFocus();
     void takeUserSelection();
+    void applyKeptWidths();
+    void saveWidths();
     void showMenu(const std::function<ContextMenu()>& open, POINT screen);
 
     Host& m_host;
     Frame& m_frame;
+    bool m_keepWidths;
     std::unique_ptr<View> m_view;
     std::unique_ptr<TreePane> m_tree;
     std::unique_ptr<DetailsPane> m_results;
@@ -151,6 +155,7 @@ class ViewController final : private TreePane::Owner,
     bool m_acting = false;
     bool m_menuOpen = false;
     bool m_selectionPending = false;
+    bool m_widthsPending = false;
     bool m_renameAsked = false; // by the host, not by a click of the user
     bool m_treeFocused = true;
     bool m_toldTreeFocused = true;

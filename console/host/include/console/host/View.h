@@ -70,6 +70,9 @@ class View
     const std::vector<Column>& columns() const;
     // The user changed a width; it is kept for the next time that this kind of node is shown.
     void setColumnWidth(int column, int width);
+    // Names the kind of node whose columns these are, the same from one run to the next: the snap-in's class id and the
+    // column set that it gave the node (or the node's type). Empty when no list is shown.
+    std::wstring columnSet() const;
     // The user clicked a header: sorts by it, the other way round when it is sorted by it already.
     void clickColumn(int column);
     // -1 when not sorted (or when the snap-in asked for no arrow).
