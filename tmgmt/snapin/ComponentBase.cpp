@@ -165,6 +165,11 @@ HRESULT ComponentBase::SetControlbar(IControlbar* controlbar)
     return guard(
         [&]
         {
+            if (m_controlbar.toolbar)
+            {
+                m_controlbar.controlbar->Detach(m_controlbar.toolbar.Get());
+                m_controlbar.toolbar.Reset();
+            }
             m_controlbar.controlbar = controlbar;
             return m_data->item(0)->SetControlbar(m_controlbar);
         });
