@@ -36,20 +36,22 @@ std::optional<Selection> selectionOfComposite(IDataObject* object)
     {
         return std::nullopt;
     }
+    const SIZE_T size = GlobalSize(medium->hGlobal);
     const auto* const parts = static_cast<const SMMCDataObjects*>(GlobalLock(medium->hGlobal));
     if (!parts)
     {
         return std::nullopt;
     }
-    const SIZE_T size = GlobalSize(medium->hGlobal);
+    constexpr SIZE_T firstPart = offsetof(SMMCDataObjects, lpDataObject);
+    // What the memory holds, whatever the count in it claims.
+    const SIZE_T room = size < firstPart ? 0 : (size - firstPart) / sizeof(LPDATAOBJECT);
     std::optional<Selection> selection;
-    for (DWORD i = 0; !selection && i < parts->count; ++i)
+    for (SIZE_T i = 0; !selection && i < room && i < parts->count; ++i)
     {
-        if (offsetof(SMMCDataObjects, lpDataObject) + (i + 1) * sizeof(LPDATAOBJECT) > size)
+        if (!IS_SPECIAL_DATAOBJECT(parts->lpDataObject[i]))
         {
-            break;
+            selection = ownSelection(parts->lpDataObject[i]);
         }
-        selection = ownSelection(parts->lpDataObject[i]);
     }
     GlobalUnlock(medium->hGlobal);
     return selection;
