@@ -11,17 +11,20 @@ namespace
 class BrokenFile : public SettingsTest
 {
   protected:
+    static constexpr int noLine = 0;
+
     void SetUp() override
     {
         SettingsTest::SetUp();
         preferNoRestart();
     }
 
-    // One box that belongs to no window, names the file and says more than its name.
-    void report(std::source_location where = std::source_location::current())
+    // One box that belongs to no window, names the file and says more than its name; where the fault has a place in the
+    // file, the line too.
+    void report(int line = noLine, std::source_location where = std::source_location::current())
     {
         robot.messageThat(
-            [](const MessageBoxSeen& box)
+            [line](const MessageBoxSeen& box)
             {
                 const std::wstring file = ServerFiles::configuration().wstring();
                 EXPECT_EQ(productCaption, box.caption);
@@ -30,14 +33,19 @@ class BrokenFile : public SettingsTest
                 EXPECT_EQ(std::vector<int>{IDOK}, box.buttons);
                 EXPECT_NE(std::wstring::npos, box.text.find(file)) << narrow(box.text);
                 EXPECT_GT(box.text.size(), file.size() + 10) << narrow(box.text);
+                if (line != noLine)
+                {
+                    EXPECT_NE(std::wstring::npos, box.text.find(L"line " + std::to_wstring(line) + L","))
+                        << narrow(box.text);
+                }
             },
             where);
     }
 
     // Opens the console: one report, and the defaults.
-    void expectDefaultsAfterOneReport(std::source_location where = std::source_location::current())
+    void expectDefaultsAfterOneReport(int line = noLine, std::source_location where = std::source_location::current())
     {
-        report(where);
+        report(line, where);
         ASSERT_NO_FATAL_FAILURE(open());
         robot.finish();
         for (const Setting& setting : allSettings())
@@ -49,23 +57,24 @@ class BrokenFile : public SettingsTest
     }
 
     // A confirmed edit is refused with one report; nothing else happens.
-    void expectRefusedEdit(const wchar_t* shown, std::source_location where = std::source_location::current())
+    void expectRefusedEdit(const wchar_t* shown, int line = noLine,
+                           std::source_location where = std::source_location::current())
     {
         view().select(listener);
         recorder.forgetCalls();
         typeAndConfirm(L"2099", where);
-        report(where);
+        report(line, where);
         view().doubleClick(L"Port");
         robot.finish();
         EXPECT_EQ(shown, view().cell(L"Port", L"Value"));
         EXPECT_TRUE(recorder.calls(L"IConsole::UpdateAllViews").empty());
     }
 
-    void expectRefusedReset(std::source_location where = std::source_location::current())
+    void expectRefusedReset(int line = noLine, std::source_location where = std::source_location::current())
     {
         view().select(listener);
         editor([](ModalWindow& dialog) { dialog.press(Editor::reset); }, where);
-        report(where);
+        report(line, where);
         view().doubleClick(L"Port");
         robot.finish();
     }
@@ -75,6 +84,8 @@ struct BrokenContent
 {
     const char* name;
     std::string content;
+    // Where the fault is; 0 where it is in no line.
+    int line;
 };
 
 void PrintTo(const BrokenContent& broken, std::ostream* out)
@@ -88,22 +99,25 @@ std::vector<BrokenContent> brokenContents()
     const auto after = [](const std::string& text, const std::string& place, const std::string& more)
     { return std::string(text).insert(text.find(place) + place.size(), more); };
     return {
-        {"CutOff", whole.substr(0, whole.size() / 2)},
-        {"NotXml", "ServerPort=2000\r\n"},
-        {"Binary", std::string("MZ\x90\0\x03\0\0\0\x04", 9)},
-        {"AnotherRoot", "<settings><add key=\"ServerPort\" value=\"2000\"/></settings>"},
-        {"NotUtf8", after(whole, "value=\"", "\xFF\xFE\x80")},
-        {"EndTagsExchanged", "<configuration><appSettings></configuration></appSettings>"},
-        {"DocumentType", after(whole, "?>", "<!DOCTYPE configuration [<!ELEMENT configuration ANY>]>")},
-        {"ExternalEntity", after(after(whole, "?>",
-                                       "<!DOCTYPE configuration [<!ENTITY secret SYSTEM "
-                                       "\"file:///C:/windows/win.ini\">]>"),
-                                 "value=\"", "&secret;")},
+        {"CutOff", whole.substr(0, whole.find("value")), 4},
+        {"NotXml", "ServerPort=2000\r\n", 1},
+        {"Binary", std::string("MZ\x90\0\x03\0\0\0\x04", 9), 1},
+        {"AnotherRoot", "<settings><add key=\"ServerPort\" value=\"2000\"/></settings>", 0},
+        {"NotUtf8", after(whole, "value=\"", "\xFF\xFE\x80"), 4},
+        {"EndTagsExchanged", "<configuration><appSettings></configuration></appSettings>", 1},
+        {"DocumentType", after(whole, "?>", "<!DOCTYPE configuration [<!ELEMENT configuration ANY>]>"), 1},
+        {"ExternalEntity",
+         after(after(whole, "?>",
+                     "<!DOCTYPE configuration [<!ENTITY secret SYSTEM "
+                     "\"file:///C:/windows/win.ini\">]>"),
+               "value=\"", "&secret;"),
+         1},
         {"EntityBomb",
          after(after(whole, "?>",
                      "<!DOCTYPE configuration [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b \"&a;&a;&a;&a;&a;&a;\">]>"),
-               "value=\"", "&b;")},
-        {"UndeclaredEntity", after(whole, "value=\"", "&secret;")},
+               "value=\"", "&b;"),
+         1},
+        {"UndeclaredEntity", after(whole, "value=\"", "&secret;"), 4},
     };
 }
 
@@ -114,9 +128,9 @@ class BrokenConfiguration : public BrokenFile, public testing::WithParamInterfac
 TEST_P(BrokenConfiguration, isReportedOnceAndKeptAsItIs)
 {
     ServerFiles::write(ServerFiles::configuration(), GetParam().content);
-    expectDefaultsAfterOneReport();
-    expectRefusedEdit(L"1099");
-    expectRefusedReset();
+    expectDefaultsAfterOneReport(GetParam().line);
+    expectRefusedEdit(L"1099", GetParam().line);
+    expectRefusedReset(GetParam().line);
     EXPECT_TRUE(GetParam().content == ServerFiles::read(ServerFiles::configuration()));
 }
 
@@ -147,7 +161,6 @@ TEST_F(BrokenFile, thatIsLockedByAnotherProgram)
     EXPECT_EQ(bytes, ServerFiles::read(ServerFiles::configuration()));
 }
 
-// Others may read it, as the server does, but it cannot be replaced meanwhile.
 TEST_F(BrokenFile, thatIsLockedOnlyWhileAnEditIsConfirmed)
 {
     store(L"ServerPort", "2000");

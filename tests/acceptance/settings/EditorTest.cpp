@@ -48,6 +48,7 @@ TEST_P(SettingEditor, opensWithNameDescriptionAndTheRestartCheckedOnAFreshMachin
     editor(
         [this](ModalWindow& dialog)
         {
+            EXPECT_FALSE(IsWindowEnabled(frame.handle())) << "the editor is modal";
             EXPECT_EQ(setting().name, dialog.text(Editor::name));
             EXPECT_TRUE(dialog.readOnly(Editor::name));
             EXPECT_EQ(setting().description, dialog.text(Editor::description));
