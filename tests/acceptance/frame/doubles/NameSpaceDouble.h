@@ -1,0 +1,67 @@
+#pragma once
+
+#include "frame/doubles/ComDouble.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace Acceptance
+{
+
+// A tree of two levels below whatever node is expanded: it remembers each call and the children that are in it now.
+class NameSpaceDouble final : public ComDouble<IConsoleNameSpace>
+{
+  public:
+    struct Deletion
+    {
+        HSCOPEITEM item;
+        bool itself;
+
+        bool operator==(const Deletion&) const = default;
+    };
+
+    HRESULT STDMETHODCALLTYPE InsertItem(SCOPEDATAITEM* item) override
+    {
+        inserted.push_back(*item);
+        if (SUCCEEDED(insertAnswer))
+        {
+            // Above 4 GiB, so that a handle that is cut to 32 bits shows.
+            item->ID = static_cast<HSCOPEITEM>(0x7100000000 + static_cast<LONG_PTR>(inserted.size()));
+            children.push_back(*item);
+        }
+        return insertAnswer;
+    }
+    HRESULT STDMETHODCALLTYPE DeleteItem(HSCOPEITEM item, long itself) override
+    {
+        deletions.push_back({item, itself != 0});
+        std::erase_if(children, [item](const SCOPEDATAITEM& child) { return child.relativeID == item; });
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE GetChildItem(HSCOPEITEM item, HSCOPEITEM* child, MMC_COOKIE* cookie) override
+    {
+        const auto found = std::ranges::find(children, item, &SCOPEDATAITEM::relativeID);
+        const bool any = found != children.end();
+        *child = any ? found->ID : 0;
+        *cookie = any ? found->lParam : 0;
+        return any ? S_OK : S_FALSE;
+    }
+    HRESULT STDMETHODCALLTYPE SetItem(SCOPEDATAITEM*) override { return uncalled("SetItem"); }
+    HRESULT STDMETHODCALLTYPE GetItem(SCOPEDATAITEM*) override { return uncalled("GetItem"); }
+    HRESULT STDMETHODCALLTYPE GetNextItem(HSCOPEITEM, HSCOPEITEM*, MMC_COOKIE*) override
+    {
+        return uncalled("GetNextItem");
+    }
+    HRESULT STDMETHODCALLTYPE GetParentItem(HSCOPEITEM, HSCOPEITEM*, MMC_COOKIE*) override
+    {
+        return uncalled("GetParentItem");
+    }
+
+    // Every record as it was given.
+    std::vector<SCOPEDATAITEM> inserted;
+    std::vector<Deletion> deletions;
+    // What is in the tree now, with the handles given.
+    std::vector<SCOPEDATAITEM> children;
+    HRESULT insertAnswer = S_OK;
+};
+
+} // namespace Acceptance
