@@ -69,7 +69,7 @@ int ConsoleProgram::run(const std::vector<std::wstring>& arguments, int show)
     }
     catch (const UsageError& wrong)
     {
-        m_error.write(L"TConsole: " + wrong.message + L" TConsole --help tells how it is used.\n");
+        report(wrong.message + L" TConsole --help tells how it is used.");
         return wrongUsage;
     }
     if (line.mode == CommandLine::Mode::help)
@@ -78,6 +78,7 @@ int ConsoleProgram::run(const std::vector<std::wstring>& arguments, int show)
         return done;
     }
 
+    m_attended = !line.unattended();
     const OleApartment apartment;
     const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES | ICC_USEREX_CLASSES};
     InitCommonControlsEx(&controls);
@@ -195,7 +196,11 @@ int ConsoleProgram::takeScreenshot(const CommandLine& line, Host& host, SnapIn& 
                           ExitProcess(failed);
                       });
     windows.run([&] { return run.done(); });
-    return run.problem().empty() ? done : fail(run.problem());
+    if (!run.problem().empty())
+    {
+        return fail(run.problem());
+    }
+    return snapIn.state() == SnapIn::State::ready ? done : fail(snapIn.problem());
 }
 
 NodeId ConsoleProgram::find(const CommandLine& line, const Host& host, const SnapIn& snapIn)
@@ -234,8 +239,17 @@ bool ConsoleProgram::select(const CommandLine& line, MainWindow& window, NodeId 
 
 int ConsoleProgram::fail(const std::wstring& sentence)
 {
-    m_error.write(L"TConsole: " + sentence + L"\n");
+    report(sentence);
     return failed;
+}
+
+void ConsoleProgram::report(const std::wstring& text)
+{
+    m_error.write(L"TConsole: " + text + L"\n");
+    if (m_attended && !m_error.isConnected())
+    {
+        MessageBoxW(nullptr, text.c_str(), L"TConsole", MB_ICONERROR);
+    }
 }
 
 } // namespace Console

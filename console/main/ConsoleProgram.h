@@ -37,9 +37,11 @@ class ConsoleProgram
     // Selects the node and the row that the command line names; false, and it is said, when there is none.
     bool select(const CommandLine& line, MainWindow& window, NodeId node);
     int fail(const std::wstring& sentence);
+    void report(const std::wstring& text);
 
     OutputStream& m_out;
     OutputStream& m_error;
+    bool m_attended = true; // somebody sees the screen
 };
 
 } // namespace Console

@@ -20,6 +20,8 @@ class OutputStream
     // Flushes; what cannot be written then is lost.
     ~OutputStream();
 
+    // False: whatever is written is lost, as the program was started without a console.
+    bool isConnected() const { return m_handle != nullptr; }
     // Collects text; large amounts are written out in between.
     void write(std::wstring_view text);
     // Writes out what was collected. False when anything so far could not be written.

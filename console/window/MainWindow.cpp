@@ -37,6 +37,17 @@ HICON loadIcon(int metric)
                                          GetSystemMetrics(metric), GetSystemMetrics(metric), LR_SHARED));
 }
 
+// An ampersand of the text is none that marks a mnemonic.
+std::wstring forMenu(const std::wstring& text)
+{
+    std::wstring result;
+    for (const wchar_t c : text)
+    {
+        result.append(c == L'&' ? 2 : 1, c);
+    }
+    return result;
+}
+
 WindowPlacement placementFor(const MainWindow::Options& options, int dpi)
 {
     const auto saved = options.remember ? Settings().text(placementName) : std::nullopt;
@@ -248,6 +259,13 @@ void MainWindow::handleCommand(int command)
     case ID_GO_UP:
         m_controller->goUp();
         return;
+    case ID_CONTEXT_MENU:
+    {
+        const HWND pane =
+            m_controller->treeHasFocus() ? m_controller->tree().handle() : m_controller->results().list().handle();
+        SendMessageW(pane, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(pane), -1);
+        return;
+    }
     case ID_NEXT_PANE:
     case ID_PREVIOUS_PANE:
         // There are two, so both ways lead to the other one.
@@ -344,7 +362,7 @@ void MainWindow::handleMenuOpening(HMENU menu)
     const SnapIn* snapIn = shownSnapIn();
     if (snapIn != nullptr)
     {
-        const std::wstring about = L"About &" + m_controller->host().tree().text(snapIn->root()) + L"...";
+        const std::wstring about = L"About &" + forMenu(m_controller->host().tree().text(snapIn->root())) + L"...";
         ModifyMenuW(menu, ID_HELP_ABOUT_SNAPIN, MF_BYCOMMAND | MF_STRING, ID_HELP_ABOUT_SNAPIN, about.c_str());
     }
 }

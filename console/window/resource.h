@@ -44,6 +44,7 @@
 #define ID_EDIT_SELECT_ALL 247
 #define ID_NEXT_PANE 250
 #define ID_PREVIOUS_PANE 251
+#define ID_CONTEXT_MENU 252
 #define ID_ACTION_NOTHING 260
 
 // Commands of the Action menu: this and the item's own number.

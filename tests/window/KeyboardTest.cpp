@@ -80,6 +80,18 @@ TEST_F(Keyboard, F2RenamesTheNodeInPlace)
     EXPECT_STREQ(settings.renamedTo, L"Branch");
 }
 
+TEST_F(Keyboard, ShiftF10OpensTheMenuOfEitherPane)
+{
+    open(0);
+    press(tree(), VK_F10, {VK_SHIFT}, WM_CANCELMODE);
+    EXPECT_GE(recorder.count(L"IExtendContextMenu::AddMenuItems"), 1);
+
+    recorder.clear();
+    selectRow(0);
+    press(list(), VK_F10, {VK_SHIFT}, WM_CANCELMODE);
+    EXPECT_GE(recorder.count(L"IExtendContextMenu::AddMenuItems"), 1);
+}
+
 TEST_F(Keyboard, TabGoesToTheOtherPaneAndBack)
 {
     open(0);

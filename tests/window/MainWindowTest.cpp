@@ -167,6 +167,53 @@ TEST_F(TheWindow, ClosesByItself)
     EXPECT_FALSE(IsWindow(handle));
 }
 
+TEST_F(TheWindow, IsClosedByAltF4FromEitherPane)
+{
+    for (const bool fromTree : {true, false})
+    {
+        open(0);
+        const HWND handle = window().handle();
+        press(fromTree ? tree() : list(), VK_F4, {VK_MENU});
+        EXPECT_FALSE(IsWindow(handle));
+    }
+}
+
+TEST_F(TheWindow, TakesNoCommandsWhileTheSnapInIsBusy)
+{
+    open(0);
+    const int refreshed = notified(L"MMCN_REFRESH");
+    controller().act(
+        [&]
+        {
+            // As if the snap-in had a box of its own open, which does not disable the window.
+            SendMessageW(window().handle(), WM_COMMAND, ID_VIEW_REFRESH, 0);
+            SendMessageW(window().handle(), WM_CLOSE, 0, 0);
+            TreeView_SelectItem(tree(), TreeView_GetRoot(tree()));
+        });
+    settle();
+
+    EXPECT_EQ(notified(L"MMCN_REFRESH"), refreshed);
+    ASSERT_TRUE(IsWindow(window().handle()));
+    EXPECT_EQ(view().selectedNode(), child(0));
+    EXPECT_EQ(controller().tree().marked(), child(0));
+}
+
+TEST_F(TheWindow, FollowsTheSnapInsRowsAndNodes)
+{
+    settings.viewOptions = MMC_VIEW_OPTIONS_MULTISELECT;
+    settings.rows = 10;
+    open(0);
+    ListView_SetItemState(list(), 2, LVIS_SELECTED, LVIS_SELECTED);
+    ListView_SetItemState(list(), 5, LVIS_SELECTED, LVIS_SELECTED);
+    settle();
+    EXPECT_EQ(view().selectedRows(), (std::vector<int>{2, 5}));
+    press(list(), VK_DELETE);
+
+    EXPECT_EQ(settings.rowsDeleted, 2);
+    EXPECT_EQ(ListView_GetItemCount(list()), 8);
+    EXPECT_EQ(ListView_GetSelectedCount(list()), static_cast<UINT>(view().selectedRows().size()));
+}
+
 class LargeLists : public TheWindow
 {
   protected:

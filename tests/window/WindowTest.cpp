@@ -66,7 +66,7 @@ bool WindowTest::serveUntil(const std::function<bool()>& condition)
     return true;
 }
 
-void WindowTest::press(HWND control, WORD key, const std::vector<int>& modifiers)
+void WindowTest::press(HWND control, WORD key, const std::vector<int>& modifiers, UINT next)
 {
     std::array<BYTE, 256> before{};
     GetKeyboardState(before.data());
@@ -80,7 +80,8 @@ void WindowTest::press(HWND control, WORD key, const std::vector<int>& modifiers
     SetKeyboardState(held.data());
     // Bit 29: Alt is down.
     const LPARAM context = alt ? 0x20000001 : 1;
-    PostMessageW(control, alt ? WM_SYSKEYDOWN : WM_KEYDOWN, key, context);
+    PostMessageW(control, alt || key == VK_F10 ? WM_SYSKEYDOWN : WM_KEYDOWN, key, context);
+    PostMessageW(window().handle(), next, 0, 0);
     settle();
     SetKeyboardState(before.data());
 }

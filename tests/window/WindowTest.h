@@ -35,8 +35,9 @@ class WindowTest : public testing::Test
     void settle();
     // Until the condition holds; false when it does not within ten seconds.
     bool serveUntil(const std::function<bool()>& condition);
-    // A key for the control that would have the focus; modifiers: VK_CONTROL, VK_SHIFT, VK_MENU.
-    void press(HWND control, WORD key, const std::vector<int>& modifiers = {});
+    // A key for the control that would have the focus; modifiers: VK_CONTROL, VK_SHIFT, VK_MENU. next: a message that
+    // the window gets right afterwards, also when the key made it run a loop of its own.
+    void press(HWND control, WORD key, const std::vector<int>& modifiers = {}, UINT next = WM_NULL);
     // Selects a row as the arrow keys do.
     void selectRow(int row);
     // What the snap-in was notified of, from the component's side: "MMCN_REFRESH".
