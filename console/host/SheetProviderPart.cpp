@@ -15,7 +15,7 @@ bool sameObject(IUnknown* left, IUnknown* right)
     ComPtr<IUnknown> leftIdentity;
     ComPtr<IUnknown> rightIdentity;
     return left != nullptr && right != nullptr && SUCCEEDED(left->QueryInterface(IID_PPV_ARGS(&leftIdentity))) &&
-           SUCCEEDED(right->QueryInterface(IID_PPV_ARGS(&rightIdentity))) && leftIdentity == rightIdentity;
+           SUCCEEDED(right->QueryInterface(IID_PPV_ARGS(&rightIdentity))) && leftIdentity.Get() == rightIdentity.Get();
 }
 
 } // namespace

@@ -131,6 +131,7 @@ void ViewState::show(NodeId id, const DataObject& object)
     pane.columnSet = object.columnSet();
     askViewType(m_host.scope.find(id)->cookie);
     ImageListFace& images = m_current->imageList();
+    images.addReference(); // for the snap-in that releases what it only borrows
     const ULONG references = images.references();
     m_current->notify(object.get(), MMCN_ADD_IMAGES, reinterpret_cast<LPARAM>(static_cast<IImageList*>(&images)),
                       static_cast<LPARAM>(id));
@@ -138,7 +139,10 @@ void ViewState::show(NodeId id, const DataObject& object)
     {
         m_host.complain(m_current->instance().number(),
                         L"The image list of MMCN_ADD_IMAGES was released by a snap-in that does not own it.");
-        images.addReference();
+    }
+    else
+    {
+        images.dropReference();
     }
     pane.shown = true;
     m_current->notify(object.get(), MMCN_SHOW, TRUE, static_cast<LPARAM>(id));
