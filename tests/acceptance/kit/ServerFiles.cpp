@@ -4,8 +4,6 @@
 
 #include <windows.h>
 
-#include <initguid.h>
-
 #include <knownfolders.h>
 #include <shlobj.h>
 

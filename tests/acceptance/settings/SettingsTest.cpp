@@ -3,6 +3,7 @@
 #include "kit/windows.h"
 
 #include <array>
+#include <cwchar>
 
 namespace Acceptance
 {
