@@ -129,26 +129,33 @@ class Registering : public ConsoleTest
     void SetUp() override
     {
         ConsoleTest::SetUp();
-        asFound();
+        registered();
     }
     void TearDown() override
     {
-        {
-            const LoadedModule module(modulePath());
-            EXPECT_EQ(S_OK, module.unregisterServer());
-            EXPECT_EQ(S_OK, module.registerServer());
-        }
-        expectEqual(asFound().lines(), RegistrySnapshot().lines());
+        registerAfresh();
+        expectEqual(registered().lines(), RegistrySnapshot().lines());
         ConsoleTest::TearDown();
     }
 
     static void unregister() { ASSERT_EQ(S_OK, LoadedModule(modulePath()).unregisterServer()); }
 
-    // As the first of these tests found it.
-    static const RegistrySnapshot& asFound()
+    // The registry with the plug-in freshly in it. An earlier registration from another folder would have left that
+    // one as the type library's help folder: the system keeps what is there.
+    static const RegistrySnapshot& registered()
     {
-        static const RegistrySnapshot snapshot;
+        static const RegistrySnapshot snapshot = []
+        {
+            registerAfresh();
+            return RegistrySnapshot();
+        }();
         return snapshot;
+    }
+    static void registerAfresh()
+    {
+        const LoadedModule module(modulePath());
+        EXPECT_EQ(S_OK, module.unregisterServer());
+        EXPECT_EQ(S_OK, module.registerServer());
     }
 };
 
