@@ -49,4 +49,27 @@ void rememberWidths(const std::wstring& columnSet, const std::vector<int>& width
     columnSettings().setText(columnSet, text.str());
 }
 
+void applyRememberedWidths(View& view)
+{
+    const std::vector<Column>& columns = view.columns();
+    const auto widths = rememberedWidths(view.columnSet(), columns.size());
+    for (std::size_t i = 0; widths && i < columns.size(); ++i)
+    {
+        if (!columns[i].hidden && columns[i].width != (*widths)[i])
+        {
+            view.setColumnWidth(static_cast<int>(i), (*widths)[i]);
+        }
+    }
+}
+
+void rememberWidths(const View& view)
+{
+    std::vector<int> widths;
+    for (const Column& column : view.columns())
+    {
+        widths.push_back(column.width);
+    }
+    rememberWidths(view.columnSet(), widths);
+}
+
 } // namespace Console

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "console/host/View.h"
+
 #include <optional>
 #include <string>
 #include <vector>
@@ -13,5 +15,9 @@ namespace Console
 std::optional<std::vector<int>> rememberedWidths(const std::wstring& columnSet, std::size_t columns);
 
 void rememberWidths(const std::wstring& columnSet, const std::vector<int>& widths);
+
+// The same for what a view shows.
+void applyRememberedWidths(View& view);
+void rememberWidths(const View& view);
 
 } // namespace Console

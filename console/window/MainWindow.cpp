@@ -2,8 +2,8 @@
 
 #include "AboutBoxes.h"
 #include "Dpi.h"
+#include "MenuBar.h"
 #include "MenuPresenter.h"
-#include "Settings.h"
 #include "resource.h"
 
 #include <algorithm>
@@ -17,9 +17,6 @@ namespace
 {
 
 // At 96 dots per inch.
-constexpr int defaultWidth = 1000;
-constexpr int defaultHeight = 640;
-constexpr int defaultTreeWidth = 260;
 constexpr int smallestPane = 60;
 constexpr int splitterWidth = 5;
 
@@ -29,46 +26,10 @@ constexpr WPARAM secondRound = 1;
 
 constexpr int actionMenuPlace = 1;
 
-const wchar_t* const placementName = L"Window";
-
 HICON loadIcon(int metric)
 {
     return static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDI_CONSOLE), IMAGE_ICON,
                                          GetSystemMetrics(metric), GetSystemMetrics(metric), LR_SHARED));
-}
-
-// An ampersand of the text is none that marks a mnemonic.
-std::wstring forMenu(const std::wstring& text)
-{
-    std::wstring result;
-    for (const wchar_t c : text)
-    {
-        result.append(c == L'&' ? 2 : 1, c);
-    }
-    return result;
-}
-
-WindowPlacement placementFor(const MainWindow::Options& options, int dpi)
-{
-    const auto saved = options.remember ? Settings().text(placementName) : std::nullopt;
-    WindowPlacement placement =
-        saved ? WindowPlacement::fromText(*saved).value_or(WindowPlacement{}) : WindowPlacement{};
-    if (placement.treeWidth == 0)
-    {
-        placement.treeWidth = defaultTreeWidth;
-    }
-    const std::vector<RECT> areas = workAreas();
-    if (options.size || placement.normal.right == placement.normal.left)
-    {
-        const SIZE size = options.size.value_or(SIZE{scaled(defaultWidth, dpi), scaled(defaultHeight, dpi)});
-        const RECT& area = areas.front();
-        const LONG left = area.left + std::max(0L, (area.right - area.left - size.cx) / 2);
-        const LONG top = area.top + std::max(0L, (area.bottom - area.top - size.cy) / 2);
-        placement.normal = {left, top, left + size.cx, top + size.cy};
-        placement.maximized = placement.maximized && !options.size;
-    }
-    placement.normal = keepOnScreen(placement.normal, areas);
-    return placement;
 }
 
 } // namespace
@@ -82,7 +43,7 @@ MainWindow::MainWindow(Host& host, Options options)
               .smallIcon = loadIcon(SM_CXSMICON),
               .background = GetSysColorBrush(COLOR_3DFACE)}),
       m_options(std::move(options)),
-      m_placement(placementFor(m_options, dpiOf(handle()))),
+      m_placement(startPlacement(m_options.remember, m_options.size, dpiOf(handle()))),
       m_dpi(dpiOf(handle())),
       m_toolbar(handle(), *this),
       m_statusBar(handle()),
@@ -179,7 +140,7 @@ LRESULT MainWindow::handleMessage(UINT message, WPARAM wParam, LPARAM lParam)
         }
         else
         {
-            releaseActionMenu();
+            m_action.release();
         }
         return 0;
     case WM_COMMAND:
@@ -231,14 +192,10 @@ void MainWindow::handleCommand(int command)
 {
     if (command >= ID_ACTION_FIRST && command <= ID_ACTION_LAST)
     {
-        if (m_action)
-        {
-            m_controller->act([&] { m_action->run(static_cast<unsigned>(command - ID_ACTION_FIRST)); });
-        }
-        releaseActionMenu();
+        m_action.run(static_cast<unsigned>(command - ID_ACTION_FIRST));
         return;
     }
-    releaseActionMenu();
+    m_action.release();
     switch (command)
     {
     case ID_FILE_EXIT:
@@ -346,61 +303,20 @@ void MainWindow::handleMenuOpening(HMENU menu)
 {
     if (menu == GetSubMenu(GetMenu(handle()), actionMenuPlace))
     {
-        fillActionMenu(menu);
+        m_action.fill(*m_controller, menu);
         return;
     }
-    const View& view = m_controller->view();
-    const int mode = view.viewMode() == MMCLV_VIEWSTYLE_FILTERED ? MMCLV_VIEWSTYLE_REPORT : view.viewMode();
-    CheckMenuRadioItem(menu, ID_VIEW_LARGE_ICONS, ID_VIEW_LIST, static_cast<UINT>(ID_VIEW_LARGE_ICONS + mode),
-                       MF_BYCOMMAND);
-    for (UINT command = ID_VIEW_LARGE_ICONS; command <= ID_VIEW_LIST; ++command)
-    {
-        EnableMenuItem(menu, command, view.pane() == View::Pane::list ? MF_ENABLED : MF_GRAYED);
-    }
-    CheckMenuItem(menu, ID_VIEW_TOOLBAR, m_placement.toolbar ? MF_CHECKED : MF_UNCHECKED);
-    CheckMenuItem(menu, ID_VIEW_STATUS_BAR, m_placement.statusBar ? MF_CHECKED : MF_UNCHECKED);
-    const SnapIn* snapIn = shownSnapIn();
-    if (snapIn != nullptr)
-    {
-        const std::wstring about = L"About &" + forMenu(m_controller->host().tree().text(snapIn->root())) + L"...";
-        ModifyMenuW(menu, ID_HELP_ABOUT_SNAPIN, MF_BYCOMMAND | MF_STRING, ID_HELP_ABOUT_SNAPIN, about.c_str());
-    }
+    const SnapIn* const snapIn = shownSnapIn();
+    updateMenu(menu, m_controller->view(), m_placement,
+               snapIn != nullptr ? m_controller->host().tree().text(snapIn->root()) : std::wstring());
 }
 
 void MainWindow::handleMenuLoopEnd()
 {
     m_statusBar.endHelp();
-    if (m_action)
+    if (m_action.isOpen())
     {
         PostMessageW(handle(), menuEndMessage, firstRound, 0);
-    }
-}
-
-void MainWindow::fillActionMenu(HMENU menu)
-{
-    releaseActionMenu();
-    m_controller->act([&] { m_action.emplace(m_controller->menu()); });
-    emptyMenu(menu);
-    if (!m_action || m_action->items().empty())
-    {
-        AppendMenuW(menu, MF_STRING | MF_GRAYED, ID_ACTION_NOTHING, L"(No commands)");
-        m_action.reset();
-        return;
-    }
-    fillMenu(menu, m_action->items(), ID_ACTION_FIRST);
-    m_controller->setMenuOpen(true);
-}
-
-void MainWindow::releaseActionMenu()
-{
-    if (m_action)
-    {
-        // The menu's items point to texts of the context menu.
-        emptyMenu(GetSubMenu(GetMenu(handle()), actionMenuPlace));
-        AppendMenuW(GetSubMenu(GetMenu(handle()), actionMenuPlace), MF_STRING | MF_GRAYED, ID_ACTION_NOTHING, L"");
-        m_action.reset();
-        m_controller->setMenuOpen(false);
-        m_controller->processPending();
     }
 }
 
@@ -408,16 +324,9 @@ void MainWindow::handleDestruction()
 {
     if (m_options.remember && m_options.top == NodeId::none)
     {
-        WINDOWPLACEMENT placement{};
-        placement.length = sizeof placement;
-        if (GetWindowPlacement(handle(), &placement))
-        {
-            m_placement.maximized = placement.showCmd == SW_SHOWMAXIMIZED;
-            m_placement.normal = placement.rcNormalPosition;
-            Settings().setText(placementName, m_placement.toText());
-        }
+        rememberPlacement(handle(), m_placement);
     }
-    m_action.reset();
+    m_action.release();
     m_controller.reset();
 }
 
@@ -439,7 +348,7 @@ void MainWindow::viewChanged(unsigned changes)
     if ((changes &
          (ViewController::status | ViewController::rows | ViewController::selection | ViewController::pane)) != 0)
     {
-        updateStatus();
+        m_statusBar.show(m_controller->view());
     }
     updateCommands();
 }
@@ -505,23 +414,6 @@ void MainWindow::updateTitle()
         title = m_controller->host().tree().text(snapIn->root());
     }
     SetWindowTextW(handle(), title.empty() ? L"TConsole" : (title + L" - TConsole").c_str());
-}
-
-void MainWindow::updateStatus()
-{
-    const View& view = m_controller->view();
-    std::wstring count;
-    if (view.pane() == View::Pane::list)
-    {
-        const int rows = view.rowCount();
-        count = rows == 1 ? L"1 item" : std::to_wstring(rows) + L" items";
-        const std::size_t selected = view.selectedRows().size();
-        if (selected > 0 && view.multiSelect())
-        {
-            count += L", " + std::to_wstring(selected) + L" selected";
-        }
-    }
-    m_statusBar.show(view.status(), count);
 }
 
 void MainWindow::updateCommands()

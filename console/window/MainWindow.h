@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ActionMenu.h"
 #include "Splitter.h"
 #include "StatusBar.h"
 #include "ToolbarStrip.h"
@@ -67,10 +68,7 @@ class MainWindow final : public Window, private ViewController::Frame, private T
     void arrange();
     void refresh();
     void updateTitle();
-    void updateStatus();
     void updateCommands();
-    void fillActionMenu(HMENU menu);
-    void releaseActionMenu();
     void showAbout(bool snapIn);
     SnapIn* shownSnapIn() const;
 
@@ -82,7 +80,7 @@ class MainWindow final : public Window, private ViewController::Frame, private T
     StatusBar m_statusBar;
     Splitter m_splitter;
     std::unique_ptr<ViewController> m_controller;
-    std::optional<ContextMenu> m_action; // while the Action menu is open
+    ActionMenu m_action;
     bool m_toldActive = false;
     bool m_toldMinimized = false;
 };

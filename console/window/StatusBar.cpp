@@ -19,6 +19,22 @@ constexpr int rightWidth = 180;
 constexpr WPARAM middleSection = 1;
 constexpr WPARAM helpSection = SB_SIMPLEID;
 
+std::wstring countText(const View& view)
+{
+    if (view.pane() != View::Pane::list)
+    {
+        return {};
+    }
+    const int rows = view.rowCount();
+    std::wstring text = rows == 1 ? L"1 item" : std::to_wstring(rows) + L" items";
+    const std::size_t selected = view.multiSelect() ? view.selectedRows().size() : 0;
+    if (selected > 0)
+    {
+        text += L", " + std::to_wstring(selected) + L" selected";
+    }
+    return text;
+}
+
 } // namespace
 
 StatusBar::StatusBar(HWND parent)
@@ -68,9 +84,11 @@ void StatusBar::arrange()
     MoveWindow(m_progress, middle.left, middle.top, middle.right - middle.left, middle.bottom - middle.top, TRUE);
 }
 
-void StatusBar::show(const View::Status& status, const std::wstring& fallback)
+void StatusBar::show(const View& view)
 {
-    const std::array<const std::wstring*, 3> texts{status.left.empty() ? &fallback : &status.left, &status.middle,
+    const View::Status& status = view.status();
+    const std::wstring count = countText(view);
+    const std::array<const std::wstring*, 3> texts{status.left.empty() ? &count : &status.left, &status.middle,
                                                    &status.right};
     for (WPARAM section = 0; section < texts.size(); ++section)
     {

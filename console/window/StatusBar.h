@@ -21,8 +21,8 @@ class StatusBar
     // Places itself at the bottom of its parent.
     void arrange();
 
-    // fallback: what the left section says when the snap-in says nothing.
-    void show(const View::Status& status, const std::wstring& fallback);
+    // The snap-in's texts; where it says nothing at the left, the number of rows.
+    void show(const View& view);
     // One text over the whole width, for as long as a menu is open.
     void showHelp(const std::wstring& text);
     void endHelp();

@@ -118,7 +118,10 @@ void ViewController::takeChanges()
     }
     if ((changes & (pane | columns)) != 0)
     {
-        applyKeptWidths();
+        if (m_keepWidths)
+        {
+            applyRememberedWidths(*m_view);
+        }
         m_results->list().takeColumns();
     }
     if ((changes & (pane | rows | columns)) != 0)
@@ -354,31 +357,12 @@ void ViewController::columnResized(int column, int width)
     m_view->setColumnWidth(column, width);
     if (m_keepWidths && !std::exchange(m_widthsPending, true))
     {
-        later([this] { saveWidths(); });
-    }
-}
-
-void ViewController::saveWidths()
-{
-    m_widthsPending = false;
-    std::vector<int> widths;
-    for (const Column& column : m_view->columns())
-    {
-        widths.push_back(column.width);
-    }
-    rememberWidths(m_view->columnSet(), widths);
-}
-
-void ViewController::applyKeptWidths()
-{
-    const std::vector<Column>& columns = m_view->columns();
-    const auto widths = m_keepWidths ? rememberedWidths(m_view->columnSet(), columns.size()) : std::nullopt;
-    for (std::size_t i = 0; widths && i < columns.size(); ++i)
-    {
-        if (!columns[i].hidden && columns[i].width != (*widths)[i])
-        {
-            m_view->setColumnWidth(static_cast<int>(i), (*widths)[i]);
-        }
+        later(
+            [this]
+            {
+                m_widthsPending = false;
+                rememberWidths(*m_view);
+            });
     }
 }
 

@@ -138,8 +138,6 @@ class ViewController final : private TreePane::Owner,
     void focusMoved(bool tree);
     void tellFocus();
     void takeUserSelection();
-    void applyKeptWidths();
-    void saveWidths();
     void showMenu(const std::function<ContextMenu()>& open, POINT screen);
 
     Host& m_host;

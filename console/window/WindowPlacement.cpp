@@ -1,5 +1,8 @@
 #include "WindowPlacement.h"
 
+#include "Dpi.h"
+#include "Settings.h"
+
 #include <algorithm>
 #include <sstream>
 
@@ -12,6 +15,13 @@ namespace
 // Below this a window cannot be used.
 constexpr LONG smallestWidth = 200;
 constexpr LONG smallestHeight = 150;
+
+// At 96 dots per inch.
+constexpr int defaultWidth = 1000;
+constexpr int defaultHeight = 640;
+constexpr int defaultTreeWidth = 260;
+
+const wchar_t* const settingName = L"Window";
 
 LONGLONG commonArea(const RECT& a, const RECT& b)
 {
@@ -53,6 +63,41 @@ std::optional<WindowPlacement> WindowPlacement::fromText(const std::wstring& tex
     const bool sensible = placement.normal.right - placement.normal.left >= smallestWidth &&
                           placement.normal.bottom - placement.normal.top >= smallestHeight && placement.treeWidth >= 0;
     return numbers && sensible ? std::optional(placement) : std::nullopt;
+}
+
+WindowPlacement startPlacement(bool remembered, const std::optional<SIZE>& size, int dpi)
+{
+    const auto text = remembered ? Settings().text(settingName) : std::nullopt;
+    const auto last = text ? WindowPlacement::fromText(*text) : std::nullopt;
+    WindowPlacement placement = last.value_or(WindowPlacement{});
+    if (placement.treeWidth == 0)
+    {
+        placement.treeWidth = defaultTreeWidth;
+    }
+    const std::vector<RECT> areas = workAreas();
+    if (size || !last)
+    {
+        const SIZE wanted = size.value_or(SIZE{scaled(defaultWidth, dpi), scaled(defaultHeight, dpi)});
+        const RECT& area = areas.front();
+        const LONG left = area.left + std::max(0L, (area.right - area.left - wanted.cx) / 2);
+        const LONG top = area.top + std::max(0L, (area.bottom - area.top - wanted.cy) / 2);
+        placement.normal = {left, top, left + wanted.cx, top + wanted.cy};
+        placement.maximized = false;
+    }
+    placement.normal = keepOnScreen(placement.normal, areas);
+    return placement;
+}
+
+void rememberPlacement(HWND window, WindowPlacement placement)
+{
+    WINDOWPLACEMENT present{};
+    present.length = sizeof present;
+    if (GetWindowPlacement(window, &present))
+    {
+        placement.maximized = present.showCmd == SW_SHOWMAXIMIZED;
+        placement.normal = present.rcNormalPosition;
+        Settings().setText(settingName, placement.toText());
+    }
 }
 
 RECT keepOnScreen(const RECT& window, const std::vector<RECT>& workAreas)

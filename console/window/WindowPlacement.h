@@ -23,6 +23,13 @@ struct WindowPlacement
     static std::optional<WindowPlacement> fromText(const std::wstring& text);
 };
 
+// Where a window starts: as the last time if that is remembered, of the size if one is given, else of the size and in
+// the place that suit the screen.
+WindowPlacement startPlacement(bool remembered, const std::optional<SIZE>& size, int dpi);
+
+// Keeps it for the next run, with the window's present place.
+void rememberPlacement(HWND window, WindowPlacement placement);
+
 // The same window where it can be seen and its caption reached: moved, and made smaller if need be, into the work area
 // that it covers most of (the first one when it covers none). workAreas is not empty.
 RECT keepOnScreen(const RECT& window, const std::vector<RECT>& workAreas);
