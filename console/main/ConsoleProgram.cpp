@@ -196,11 +196,11 @@ int ConsoleProgram::takeScreenshot(const CommandLine& line, Host& host, SnapIn& 
                           ExitProcess(failed);
                       });
     windows.run([&] { return run.done(); });
-    if (!run.problem().empty())
+    if (snapIn.state() != SnapIn::State::ready)
     {
-        return fail(run.problem());
+        return fail(snapIn.problem());
     }
-    return snapIn.state() == SnapIn::State::ready ? done : fail(snapIn.problem());
+    return run.problem().empty() ? done : fail(run.problem());
 }
 
 NodeId ConsoleProgram::find(const CommandLine& line, const Host& host, const SnapIn& snapIn)
@@ -220,7 +220,8 @@ bool ConsoleProgram::select(const CommandLine& line, MainWindow& window, NodeId 
     ViewController& controller = window.controller();
     controller.selectNode(node);
     controller.tree().open(node, true);
-    if (!line.row)
+    const SnapIn* const snapIn = controller.host().tree().snapIn(node);
+    if (!line.row || snapIn == nullptr || snapIn->state() != SnapIn::State::ready)
     {
         return true;
     }
