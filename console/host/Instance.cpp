@@ -12,8 +12,6 @@
 namespace Console
 {
 
-using Microsoft::WRL::ComPtr;
-
 namespace
 {
 

@@ -323,7 +323,8 @@ void PropertySheets::closeOf(const Instance& instance)
             else if (GetTickCount64() > deadline)
             {
                 m_host.complain(instance.number(), L"A property sheet did not close.");
-                sheet.release(); // its thread still uses it
+                // Given up, not deleted: its thread still uses it.
+                [[maybe_unused]] const auto* const abandoned = sheet.release();
                 break;
             }
             if (sheet == nullptr)

@@ -98,7 +98,7 @@ TEST(SmartPtr, MovesLeaveNothingBehind)
     bool gone = false;
     SmartPtr<Node> first = new Node(gone);
     SmartPtr<Node> second = std::move(first);
-    EXPECT_EQ(nullptr, first.get()); // NOLINT(bugprone-use-after-move)
+    EXPECT_EQ(nullptr, first.get()); // NOLINT(bugprone-use-after-move,clang-analyzer-cplusplus.Move)
     EXPECT_FALSE(gone);
     second.reset();
     EXPECT_TRUE(gone);
