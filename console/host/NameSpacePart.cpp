@@ -4,6 +4,17 @@
 
 namespace Console
 {
+namespace
+{
+
+// For the trace.
+std::wstring arguments(const SCOPEDATAITEM* item)
+{
+    return item == nullptr ? std::wstring(L"null")
+                           : listOf(L"mask", item->mask, L"ID", static_cast<unsigned long long>(item->ID));
+}
+
+} // namespace
 
 ScopeNode* NameSpacePart::own(HSCOPEITEM item) const
 {
@@ -123,12 +134,7 @@ HRESULT NameSpacePart::DeleteItem(HSCOPEITEM item, __LONG32 deleteThis)
 HRESULT NameSpacePart::SetItem(LPSCOPEDATAITEM item)
 {
     return m_whole.answer(
-        L"IConsoleNameSpace::SetItem",
-        [&]
-        {
-            return item == nullptr ? std::wstring(L"null")
-                                   : listOf(L"mask", item->mask, L"ID", static_cast<unsigned long long>(item->ID));
-        },
+        L"IConsoleNameSpace::SetItem", [&] { return arguments(item); },
         [&]
         {
             if (item == nullptr)
@@ -156,12 +162,7 @@ HRESULT NameSpacePart::SetItem(LPSCOPEDATAITEM item)
 HRESULT NameSpacePart::GetItem(LPSCOPEDATAITEM item)
 {
     return m_whole.answer(
-        L"IConsoleNameSpace::GetItem",
-        [&]
-        {
-            return item == nullptr ? std::wstring(L"null")
-                                   : listOf(L"mask", item->mask, L"ID", static_cast<unsigned long long>(item->ID));
-        },
+        L"IConsoleNameSpace::GetItem", [&] { return arguments(item); },
         [&]
         {
             if (item == nullptr)
