@@ -32,7 +32,12 @@ use_prefix() {
 
 # Services end with the last ordinary program of a prefix. This one waits for input that never comes, until stop_wine.
 keep_services() {
-  coproc KEEPER { exec wine cmd >/dev/null 2>&1; }
+  local pipe held
+  pipe=$(mktemp -u)
+  mkfifo "$pipe"
+  exec {held}<>"$pipe"
+  rm "$pipe"
+  wine cmd <&"$held" >/dev/null 2>&1 &
 }
 
 # A Windows path for a Unix one.

@@ -61,6 +61,22 @@ TEST_F(EditPropertyDlgTest, opensWithNameValueDescriptionCheckBoxAndFocusOnTheVa
     EXPECT_EQ(dialog.show(frame()), IDCANCEL);
 }
 
+TEST_F(EditPropertyDlgTest, selectsTheValueSoThatTypingReplacesIt)
+{
+    auto dialog = dialogFor(PropertyKind::text, L"some value");
+    cancelAfter(
+        [](ModalWindow& window)
+        {
+            DWORD first = 0;
+            DWORD last = 0;
+            SendMessageW(window.control(IDC_PROPERTY_VALUE), EM_GETSEL, reinterpret_cast<WPARAM>(&first),
+                         reinterpret_cast<LPARAM>(&last));
+            EXPECT_EQ(first, 0U);
+            EXPECT_EQ(last, 10U);
+        });
+    EXPECT_EQ(dialog.show(frame()), IDCANCEL);
+}
+
 TEST_F(EditPropertyDlgTest, showsTheUnitOfTheKindAndNeverTheTextOfTheResource)
 {
     const std::pair<PropertyKind, const wchar_t*> cases[] = {

@@ -49,6 +49,16 @@ std::wstring Dialog::text(int control) const
     return text;
 }
 
+void Dialog::setFocus(int control) noexcept
+{
+    const HWND target = item(control);
+    SetFocus(target);
+    if (SendMessageW(target, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL)
+    {
+        SendMessageW(target, EM_SETSEL, 0, -1);
+    }
+}
+
 void Dialog::complain(const wchar_t* message, UINT icon) noexcept
 {
     showMessage(m_window, message, validationErrorCaption, MB_OK | icon);

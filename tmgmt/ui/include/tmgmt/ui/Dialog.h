@@ -42,7 +42,8 @@ class Dialog
     {
         CheckDlgButton(m_window, control, checked ? BST_CHECKED : BST_UNCHECKED);
     }
-    void setFocus(int control) noexcept { SetFocus(item(control)); }
+    // Selects the text of an edit control with it, as the dialog manager does: what is typed replaces it.
+    void setFocus(int control) noexcept;
     // A message box owned by this dialog, titled "Validation Error". icon is MB_ICONERROR or MB_ICONEXCLAMATION.
     void complain(const wchar_t* message, UINT icon) noexcept;
 
