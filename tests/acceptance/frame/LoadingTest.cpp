@@ -1,5 +1,5 @@
 #include "frame/BareSnapIn.h"
-#include "frame/ImportPatch.h"
+#include "kit/ImportPatch.h"
 #include "frame/nodeData.h"
 #include "kit/ConsoleTest.h"
 

@@ -1,4 +1,4 @@
-#include "frame/ImportPatch.h"
+#include "kit/ImportPatch.h"
 #include "frame/LoadedModule.h"
 #include "frame/RegistrySnapshot.h"
 #include "frame/childProcess.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/ImportPatch.h"
+#include "kit/ImportPatch.h"
 
 #include <windows.h>
 

@@ -1,4 +1,4 @@
-#include "frame/ImportPatch.h"
+#include "kit/ImportPatch.h"
 #include "frame/systemConfiguration.h"
 #include "kit/ConsoleTest.h"
 #include "platform/handles.h"

@@ -1,4 +1,4 @@
-#include "frame/ImportPatch.h"
+#include "kit/ImportPatch.h"
 
 #include <stdexcept>
 #include <string>

@@ -19,6 +19,9 @@ class ImportPatch
     ImportPatch& operator=(const ImportPatch&) = delete;
     ~ImportPatch();
 
+    // What the library called before.
+    void* former() const { return m_former; }
+
   private:
     ImportPatch(const char* name, void* replacement);
 
