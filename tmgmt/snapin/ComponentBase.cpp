@@ -44,7 +44,7 @@ HRESULT ComponentBase::Notify(IDataObject* object, MMC_NOTIFY_TYPE event, LPARAM
             {
                 return onShow(selection, arg, param, caller);
             }
-            if (event == MMCN_VIEW_CHANGE && !shows(*selection.items.front()))
+            if (event == MMCN_VIEW_CHANGE && !isConcernedBy(*selection.items.front()))
             {
                 return S_OK;
             }
@@ -54,24 +54,23 @@ HRESULT ComponentBase::Notify(IDataObject* object, MMC_NOTIFY_TYPE event, LPARAM
 
 HRESULT ComponentBase::onShow(const Selection& selection, LPARAM selecting, LPARAM scopeItem, Console& console)
 {
-    m_shown.reset();
+    m_rows->setNode(nullptr);
     m_rows->clear();
-    const HRESULT result = notifyItems(selection, MMCN_SHOW, selecting, scopeItem, console);
-    // A node that has nothing of its own to show is shown all the same.
-    if (selecting && m_console)
+    if (!selecting)
     {
-        m_shown = selection.items.front();
-    }
-    else
-    {
+        const HRESULT result = notifyItems(selection, MMCN_SHOW, selecting, scopeItem, console);
         m_rows->clear();
+        return result;
     }
-    return result;
+    // The node is shown from here on, even where it has nothing of its own to show or fails to read it.
+    m_rows->setNode(selection.items.front());
+    const OwnChange building(m_rows, *selection.items.front());
+    return notifyItems(selection, MMCN_SHOW, selecting, scopeItem, console);
 }
 
-bool ComponentBase::shows(const CSnapInItem& item) const noexcept
+bool ComponentBase::isConcernedBy(const CSnapInItem& changed) const noexcept
 {
-    return m_shown.get() == &item || m_rows->contains(item);
+    return !m_rows->isOwnChange(changed) && (m_rows->showsNode(changed) || m_rows->contains(changed));
 }
 
 HRESULT ComponentBase::Destroy(MMC_COOKIE)
@@ -81,7 +80,7 @@ HRESULT ComponentBase::Destroy(MMC_COOKIE)
         {
             m_controlbar.toolbar.Reset();
             m_controlbar.controlbar.Reset();
-            m_shown.reset();
+            m_rows->setNode(nullptr);
             m_rows->clear();
             m_console.Reset();
             return S_OK;

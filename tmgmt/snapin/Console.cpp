@@ -2,6 +2,8 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+
 #include "tmgmt/snapin/ViewRows.h"
 #include "tmgmt/snapin/guard.h"
 
@@ -27,6 +29,15 @@ ComPtr<Interface> Console::query()
     return found;
 }
 
+IResultData& Console::results()
+{
+    if (!m_results)
+    {
+        m_results = query<IResultData>();
+    }
+    return *m_results.Get();
+}
+
 ViewRows& Console::rows()
 {
     if (!m_rows)
@@ -36,6 +47,11 @@ ViewRows& Console::rows()
     return *m_rows;
 }
 
+bool Console::shows(const CSnapInItem& node) const noexcept
+{
+    return m_rows && m_rows->showsNode(node);
+}
+
 void Console::insertColumn(int position, const wchar_t* title, int width)
 {
     throwIfFailed(query<IHeaderCtrl>()->InsertColumn(position, title, LVCFMT_LEFT, width));
@@ -43,14 +59,14 @@ void Console::insertColumn(int position, const wchar_t* title, int width)
 
 void Console::switchSortingOff()
 {
-    throwIfFailed(query<IResultData>()->ModifyViewStyle(MMC_NOSORTHEADER, static_cast<MMC_RESULT_VIEW_STYLE>(0)));
+    throwIfFailed(results().ModifyViewStyle(MMC_NOSORTHEADER, static_cast<MMC_RESULT_VIEW_STYLE>(0)));
 }
 
 void Console::insertRow(CSnapInItem& item)
 {
     ViewRows& rows = this->rows();
     RESULTDATAITEM& record = item.GetResultData();
-    throwIfFailed(query<IResultData>()->InsertItem(&record));
+    throwIfFailed(results().InsertItem(&record));
     rows.add(item, record.itemID);
 }
 
@@ -58,21 +74,44 @@ void Console::updateRow(CSnapInItem& item)
 {
     if (const HRESULTITEM id = rows().find(item))
     {
-        throwIfFailed(query<IResultData>()->UpdateItem(id));
+        throwIfFailed(results().UpdateItem(id));
     }
 }
 
 void Console::clearRows()
 {
     ViewRows& rows = this->rows();
-    const auto results = query<IResultData>();
+    IResultData& results = this->results();
     HWND frame = nullptr;
     m_console->GetMainWindow(&frame);
     LockWindowUpdate(frame);
-    const HRESULT result = results->DeleteAllRsltItems();
+    const HRESULT result = results.DeleteAllRsltItems();
     LockWindowUpdate(nullptr);
     throwIfFailed(result);
     rows.clear();
+}
+
+void Console::refreshResultList(CSnapInItem& node)
+{
+    if (!m_holdsRefreshes)
+    {
+        node.refreshResultList(*this);
+        return;
+    }
+    const Core::SmartPtr<CSnapInItem> held(&node);
+    if (std::find(m_heldRefreshes.begin(), m_heldRefreshes.end(), held) == m_heldRefreshes.end())
+    {
+        m_heldRefreshes.push_back(held);
+    }
+}
+
+void Console::releaseRefreshes()
+{
+    m_holdsRefreshes = false;
+    for (const auto& node : std::exchange(m_heldRefreshes, {}))
+    {
+        node->refreshResultList(*this);
+    }
 }
 
 bool Console::enableVerb(MMC_CONSOLE_VERB verb)
@@ -100,6 +139,12 @@ void Console::updateAllViews(CSnapInItem& item, DATA_OBJECT_TYPES type)
 {
     const auto object = item.GetDataObject(type);
     m_console->UpdateAllViews(object.Get(), 0, 0);
+}
+
+void Console::updateOtherViews(CSnapInItem& item, DATA_OBJECT_TYPES type)
+{
+    const OwnChange own(m_rows, item);
+    updateAllViews(item, type);
 }
 
 } // namespace TMgmt

@@ -35,7 +35,7 @@ HRESULT fillItemData(CLIPFORMAT format, const ItemData& item, std::vector<std::b
     }
     else if (format == clipboardFormats.nodeTypeText)
     {
-        put(item.nodeTypeText, data);
+        put(guidText(item.nodeType), data);
     }
     else if (format == clipboardFormats.displayName)
     {

@@ -27,14 +27,28 @@ bool isDispatched(MMC_NOTIFY_TYPE event) noexcept
 HRESULT notifyItems(const Selection& selection, MMC_NOTIFY_TYPE event, LPARAM arg, LPARAM param, Console& console)
 {
     HRESULT result = S_OK;
-    for (const auto& item : selection.items)
+    if (selection.items.size() > 1)
     {
-        const HRESULT answer = item->Notify(event, arg, param, console, selection.type);
-        if (!FAILED(result))
+        console.holdRefreshes();
+    }
+    try
+    {
+        for (const auto& item : selection.items)
         {
-            result = answer;
+            const HRESULT answer = item->Notify(event, arg, param, console, selection.type);
+            if (!FAILED(result))
+            {
+                result = answer;
+            }
         }
     }
+    catch (...)
+    {
+        // What happened to the nodes before is shown all the same.
+        console.releaseRefreshes();
+        throw;
+    }
+    console.releaseRefreshes();
     return result;
 }
 

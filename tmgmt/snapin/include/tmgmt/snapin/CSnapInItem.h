@@ -40,6 +40,9 @@ class CSnapInItem : public Core::Object
     // arg and param as IExtendControlbar has them.
     virtual HRESULT ControlbarNotify(MMC_NOTIFY_TYPE event, LPARAM arg, LPARAM param, ControlbarSite& site,
                                      Console& console) = 0;
+    // Reads the node's rows anew from where they are kept and lists them in every view that shows the node. Called
+    // through Console::refreshResultList. A node without rows of its own has nothing to do.
+    virtual void refreshResultList(Console&) {}
     virtual SCOPEDATAITEM& GetScopeData() = 0;
     virtual RESULTDATAITEM& GetResultData() = 0;
     // The node's answer in one clipboard format; DV_E_CLIPFORMAT for a format that it does not have.

@@ -75,7 +75,7 @@ class CSnapInItemImpl : public CSnapInItem
 
     HRESULT FillData(CLIPFORMAT format, std::vector<std::byte>& data) override
     {
-        return fillItemData(format, {T::nodeType, m_nodeTypeText, m_displayName, T::snapInClassId}, data);
+        return fillItemData(format, {T::nodeType, m_displayName, T::snapInClassId}, data);
     }
 
     void InitDataClass(SnapInDataObject& object, DATA_OBJECT_TYPES type) override
@@ -107,8 +107,7 @@ class CSnapInItemImpl : public CSnapInItem
     const std::wstring& displayName() const noexcept { return m_displayName; }
 
   private:
-    CSnapInItemImpl(const wchar_t* displayName, int image)
-        : m_displayName(displayName), m_nodeTypeText(guidText(T::nodeType))
+    CSnapInItemImpl(const wchar_t* displayName, int image) : m_displayName(displayName)
     {
         m_scopeData.displayname = platform::askForText();
         m_scopeData.nImage = image;
@@ -122,7 +121,6 @@ class CSnapInItemImpl : public CSnapInItem
     std::wstring m_displayName;
     SCOPEDATAITEM m_scopeData{};
     RESULTDATAITEM m_resultData{};
-    std::wstring m_nodeTypeText;
 };
 
 } // namespace TMgmt

@@ -41,13 +41,11 @@ class ComponentBase : public ComObject<IComponent, IExtendContextMenu, IExtendCo
   private:
     Console console();
     HRESULT onShow(const Selection& selection, LPARAM selecting, LPARAM scopeItem, Console& console);
-    bool shows(const CSnapInItem& item) const noexcept;
+    bool isConcernedBy(const CSnapInItem& changed) const noexcept;
 
     Microsoft::WRL::ComPtr<ComponentDataBase> m_data;
     Microsoft::WRL::ComPtr<IConsole> m_console;
     std::shared_ptr<ViewRows> m_rows = std::make_shared<ViewRows>();
-    // The tree's node whose result pane is complete on the screen; null while one is being built or torn down.
-    Core::SmartPtr<CSnapInItem> m_shown;
     ControlbarSite m_controlbar{*this};
 };
 

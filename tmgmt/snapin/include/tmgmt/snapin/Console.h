@@ -5,6 +5,9 @@
 #include <wrl/client.h>
 
 #include <memory>
+#include <vector>
+
+#include "brimlow/system/SmartPtr.h"
 
 #include "tmgmt/snapin/CSnapInItem.h"
 
@@ -28,6 +31,8 @@ class Console
 
     // --- The result pane of a view. A call through the component data has none: E_UNEXPECTED.
 
+    // Whether the caller is a view whose result pane is this node's.
+    bool shows(const CSnapInItem& node) const noexcept;
     // Appends a left-aligned column at that position; the width is in pixels.
     void insertColumn(int position, const wchar_t* title, int width);
     // Clicks on column headers no longer sort.
@@ -37,6 +42,13 @@ class Console
     void updateRow(CSnapInItem& item);
     // Removes every row that was inserted; the window is not redrawn meanwhile.
     void clearRows();
+
+    // Has the node list its rows anew: at once, or, while refreshes are held, when they are released, once for each
+    // node. They are held while an event is told to several selected rows, so that deleting a thousand rows lists
+    // the rest once.
+    void refreshResultList(CSnapInItem& node);
+    void holdRefreshes() noexcept { m_holdsRefreshes = true; }
+    void releaseRefreshes();
 
     // Enables a verb for what is selected now. False when the console has no verbs for this caller.
     bool enableVerb(MMC_CONSOLE_VERB verb);
@@ -50,14 +62,22 @@ class Console
     // has happened by then, so nothing is thrown.
     void updateAllViews(CSnapInItem& item, DATA_OBJECT_TYPES type);
 
+    // The same for every view but the caller's, which has the change already.
+    void updateOtherViews(CSnapInItem& item, DATA_OBJECT_TYPES type);
+
   private:
     template <class Interface>
     Microsoft::WRL::ComPtr<Interface> query();
+    IResultData& results();
     ViewRows& rows();
 
     Microsoft::WRL::ComPtr<IConsole> m_console;
     std::shared_ptr<ViewRows> m_rows;
     Microsoft::WRL::ComPtr<IExtendControlbar> m_controlbar;
+    // Asked for once, however many rows go through it.
+    Microsoft::WRL::ComPtr<IResultData> m_results;
+    bool m_holdsRefreshes = false;
+    std::vector<Core::SmartPtr<CSnapInItem>> m_heldRefreshes;
 };
 
 } // namespace TMgmt

@@ -15,7 +15,6 @@ namespace TMgmt
 struct ItemData
 {
     const GUID& nodeType;
-    const std::wstring& nodeTypeText;
     const std::wstring& displayName;
     const CLSID& snapInClassId;
 };
