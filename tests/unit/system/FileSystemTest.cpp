@@ -66,4 +66,14 @@ TEST(FileExists, CountsAFileWhoseReplacementWasInterrupted)
     EXPECT_TRUE(FileSystem::fileExists(folder.path(L"a.config")));
 }
 
+TEST(FolderExists, TellsFoldersFromFilesAndNothing)
+{
+    const TemporaryFolder folder;
+    folder.write(L"a.config", "");
+    EXPECT_TRUE(FileSystem::folderExists(fromPath(folder.folder())));
+    EXPECT_FALSE(FileSystem::folderExists(folder.path(L"a.config")));
+    EXPECT_FALSE(FileSystem::folderExists(folder.path(L"b")));
+    EXPECT_FALSE(FileSystem::folderExists(L""));
+}
+
 } // namespace

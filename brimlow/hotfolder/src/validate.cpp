@@ -1,0 +1,137 @@
+#include "brimlow/hotfolder/HotFolder.h"
+
+#include "paths.h"
+
+#include "brimlow/system/FileSystem.h"
+#include "brimlow/system/StringFormatStream.h"
+
+namespace HotFolders
+{
+
+namespace
+{
+
+using Core::String;
+using Core::StringFormatStream;
+namespace FileSystem = Core::IO::FileSystem;
+
+// Each returns one sentence about what is wrong, or the empty text.
+
+String checkFolder(const String& role, const String& folder, bool mustExist)
+{
+    if (folder.empty())
+    {
+        return (StringFormatStream(L"Please enter the {0} folder.") << role).getString();
+    }
+    if (!isFullPath(folder))
+    {
+        return (StringFormatStream(L"The {0} folder \"{1}\" is not a full path such as \"C:\\Documents\" or "
+                                   L"\"\\\\server\\share\".")
+                << role << folder)
+            .getString();
+    }
+    if (mustExist && !FileSystem::folderExists(folder))
+    {
+        return (StringFormatStream(L"The {0} folder \"{1}\" does not exist.") << role << folder).getString();
+    }
+    return {};
+}
+
+String checkPattern(const String& pattern)
+{
+    if (pattern.empty())
+    {
+        return L"Please enter the file pattern, for example \"*.*\".";
+    }
+    if (containsSeparator(pattern))
+    {
+        return (StringFormatStream(L"The file pattern \"{0}\" must not contain \"\\\" or \"/\".") << pattern)
+            .getString();
+    }
+    return {};
+}
+
+String checkStylesheet(const String& file)
+{
+    if (file.empty())
+    {
+        return L"Please enter the stylesheet file, or do not apply a stylesheet.";
+    }
+    if (!isFullPath(file))
+    {
+        return (StringFormatStream(L"The stylesheet file \"{0}\" is not a full path.") << file).getString();
+    }
+    if (!FileSystem::fileExists(file))
+    {
+        return (StringFormatStream(L"The stylesheet file \"{0}\" does not exist.") << file).getString();
+    }
+    return {};
+}
+
+bool isWebUrl(const String& url)
+{
+    const String lower = url.toLower();
+    const auto goesOnAfter = [&](const String& scheme)
+    { return lower.startsWith(scheme) && lower.length() > scheme.length(); };
+    return goesOnAfter(L"http://") || goesOnAfter(L"https://");
+}
+
+String checkActions(const String& outcome, const ActionList& actions)
+{
+    for (const Action& action : actions)
+    {
+        if (action.getType() == ActionType::MoveInputFile && action.getDestinationPath().empty())
+        {
+            return (StringFormatStream(L"The action on {0} that moves the input file names no folder.") << outcome)
+                .getString();
+        }
+        if (action.getType() == ActionType::CallWebService && !isWebUrl(action.getHttpUrl()))
+        {
+            return (StringFormatStream(L"The action on {0} calls \"{1}\", which is not an http or https URL.")
+                    << outcome << action.getHttpUrl())
+                .getString();
+        }
+    }
+    return {};
+}
+
+String checkDifferent(const HotFolder& folder)
+{
+    if (comparisonKey(folder.getFolder()) == comparisonKey(folder.getOutputFolder()))
+    {
+        return (StringFormatStream(L"The input folder and the output folder are both \"{0}\".") << folder.getFolder())
+            .getString();
+    }
+    return {};
+}
+
+String checkPageIndex(int index)
+{
+    if (index < 0)
+    {
+        return (StringFormatStream(L"The page index {0} is negative; the first page has index 0.") << index)
+            .getString();
+    }
+    return {};
+}
+
+} // namespace
+
+bool HotFolder::validate(bool checkFolders, String& message) const
+{
+    for (const String& fault :
+         {checkFolder(L"input", m_folder, checkFolders), checkFolder(L"output", m_outputFolder, checkFolders),
+          checkDifferent(*this), checkPattern(m_fileMatchPattern),
+          m_applyFolderXslTemplate ? checkStylesheet(m_folderXslTemplate) : String(), checkPageIndex(m_pageIndex),
+          checkActions(L"success", m_onSuccessActionList), checkActions(L"failure", m_onFailureActionList)})
+    {
+        if (!fault.empty())
+        {
+            message = fault;
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace HotFolders
