@@ -1,5 +1,6 @@
 #include "brimlow/system/String.h"
 
+#include "CaseMapping.h"
 #include "Utf.h"
 
 namespace Core
@@ -26,6 +27,19 @@ std::basic_string<Char> toUnits(View text)
         }
         return units;
     }
+}
+
+std::basic_string<Char> mapped(String::View text, char32_t (*map)(char32_t) noexcept)
+{
+    std::basic_string<Char> units;
+    units.reserve(text.size());
+    for (std::size_t at = 0; at < text.size();)
+    {
+        const DecodedCharacter next = decodeUtf16(text, at);
+        appendUtf16(units, map(next.character));
+        at += next.length;
+    }
+    return units;
 }
 
 } // namespace
@@ -88,7 +102,54 @@ std::wstring String::str() const
     return result;
 }
 
-String& String::operator+=(const String& more)
+String String::toUpper() const
+{
+    return String(View(mapped(view(), upperCase)));
+}
+
+String String::toLower() const
+{
+    return String(View(mapped(view(), lowerCase)));
+}
+
+String String::replaceAll(const String& text, const String& replacement) const
+{
+    if (text.empty())
+    {
+        return *this;
+    }
+    String result;
+    std::size_t begin = 0;
+    for (std::size_t at = find(text); at != npos; at = find(text, begin))
+    {
+        result.m_text.append(m_text, begin, at - begin).append(replacement.m_text);
+        begin = at + text.length();
+    }
+    result.m_text.append(m_text, begin);
+    return result;
+}
+
+std::vector<String> String::split(const String& separator) const
+{
+    std::vector<String> pieces;
+    if (empty())
+    {
+        return pieces;
+    }
+    std::size_t begin = 0;
+    if (!separator.empty())
+    {
+        for (std::size_t at = find(separator); at != npos; at = find(separator, begin))
+        {
+            pieces.emplace_back(view().substr(begin, at - begin));
+            begin = at + separator.length();
+        }
+    }
+    pieces.emplace_back(view().substr(begin));
+    return pieces;
+}
+
+String& String::append(const String& more)
 {
     m_text += more.m_text;
     return *this;

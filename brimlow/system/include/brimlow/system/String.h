@@ -5,6 +5,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace Core
 {
@@ -46,7 +47,26 @@ class String
     bool empty() const noexcept { return m_text.empty(); }
     Char operator[](std::size_t index) const noexcept { return m_text[index]; }
 
-    String& operator+=(const String& more);
+    // The same text in upper or lower case, by the simple mappings of Unicode: every character has one counterpart or
+    // stays as it is ("\u00DF" does), so the length does not change. No locale takes part, and the result is the same
+    // on every system.
+    String toUpper() const;
+    String toLower() const;
+
+    // Searches compare as == does. An empty text is found everywhere.
+    bool startsWith(const String& beginning) const noexcept { return view().starts_with(beginning.view()); }
+    // Where text occurs for the first time at or after the unit number from; npos when it does not.
+    std::size_t find(const String& text, std::size_t from = 0) const noexcept { return view().find(text.view(), from); }
+    static constexpr std::size_t npos = View::npos;
+    // The text with every occurrence replaced, from left to right; what was put in is not searched again. Replacing the
+    // empty text changes nothing.
+    String replaceAll(const String& text, const String& replacement) const;
+    // The pieces between the separators, empty ones too: "-a--b" at "-" gives "", "a", "", "b". An empty text has no
+    // pieces; one without the separator, or with an empty one, is a single piece.
+    std::vector<String> split(const String& separator) const;
+
+    String& append(const String& more);
+    String& operator+=(const String& more) { return append(more); }
     friend String operator+(String left, const String& right) { return std::move(left += right); }
     friend bool operator==(const String& left, const String& right) noexcept { return left.m_text == right.m_text; }
     friend std::strong_ordering operator<=>(const String& left, const String& right) noexcept
