@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+
+namespace Bench
+{
+
+// One side of a comparison. Only act is on the clock.
+struct Side
+{
+    std::function<void()> act;
+    std::function<void()> before{};
+    // Checks that act did its work; throws when it did not.
+    std::function<void()> after{};
+};
+
+// Runs both sides in turn, one time to warm up and then repetitions times on the clock (fewer, but three at least,
+// where they take long), and hands the times to the script that makes the table. size: the number of rows among which
+// it happened; 0 where there are none.
+void compare(const char* what, std::size_t size, std::size_t repetitions, const Side& measured, const Side& floor);
+
+// Hands over a number of bytes, and the floor's.
+void reportBytes(const char* what, std::size_t size, std::size_t measured, std::size_t floor);
+
+} // namespace Bench

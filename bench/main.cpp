@@ -1,0 +1,58 @@
+#include "kit/windows.h"
+#include "subjects/subjects.h"
+
+#include <gtest/gtest.h>
+
+#include <ole2.h>
+
+#include <cstdio>
+#include <exception>
+#include <map>
+#include <string>
+
+namespace
+{
+
+const std::map<std::wstring, Bench::Subject> subjects{
+    {L"loading", Bench::loading},
+    {L"log-files", Bench::logFiles},
+    {L"private-fonts", Bench::privateFonts},
+};
+
+int measure(const std::wstring& name, std::size_t size, std::size_t repetitions)
+{
+    const auto subject = subjects.find(name);
+    if (subject == subjects.end())
+    {
+        std::fprintf(stderr, "There is no subject %s.\n", Acceptance::narrow(name).c_str());
+        return 1;
+    }
+    try
+    {
+        subject->second(size, repetitions);
+    }
+    catch (const std::exception& failure)
+    {
+        std::fprintf(stderr, "%s, %zu: %s\n", Acceptance::narrow(name).c_str(), size, failure.what());
+        return 1;
+    }
+    // The robot that answers dialogs reports to googletest.
+    return testing::UnitTest::GetInstance()->ad_hoc_test_result().Failed() ? 1 : 0;
+}
+
+} // namespace
+
+// Bench.exe SUBJECT SIZE REPETITIONS: measures and writes figures for measure.py, which starts it.
+extern "C" int wmain(int argumentCount, wchar_t** arguments)
+{
+    if (argumentCount != 4)
+    {
+        std::fprintf(stderr, "Run ./bench.sh.\n");
+        return 1;
+    }
+    testing::InitGoogleTest();
+    OleInitialize(nullptr);
+    const int result = measure(arguments[1], std::stoul(arguments[2]), std::stoul(arguments[3]));
+    OleUninitialize();
+    return result;
+}

@@ -1,0 +1,63 @@
+#!/usr/bin/env python3
+"""measure.py FOLDER RESULT [--quick]: runs the Bench.exe in that build folder in the Wine prefix of the environment,
+makes what it asks for, and writes the table to standard output and to the file RESULT."""
+
+import os
+import subprocess
+import sys
+
+from fixtures import Fixtures
+from table import Figure, table
+
+# Subjects of Bench.exe and their sizes. Each is a process of its own, so that none finds another's memory.
+SUBJECTS = {
+    'loading': [0, 1000, 10000, 100000],
+    'log-files': [1000, 10000, 100000],
+    'private-fonts': [1000, 10000],
+}
+REPETITIONS = 7
+QUICK_LARGEST = 10000
+QUICK_REPETITIONS = 5
+
+
+def run(bench, subject, size, repetitions, fixtures):
+    """The figures that Bench.exe gives for one subject and size."""
+    figures = []
+    command = ['wine', bench, subject, str(size), str(repetitions)]
+    with subprocess.Popen(command, stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True) as process:
+        for line in process.stdout:
+            kind, *fields = line.rstrip('\r\n').split('\t')
+            if kind == 'fixture':
+                fixtures.make(fields[0], int(fields[1]))
+                process.stdin.write('\n')
+                process.stdin.flush()
+            elif kind == 'figure':
+                what, rows, unit, measured, floor = fields
+                figures.append(Figure(what, int(rows), unit, [int(each) for each in measured.split(',')],
+                                      [int(each) for each in floor.split(',')]))
+            elif kind:
+                print(line.rstrip(), file=sys.stderr)
+    if process.returncode != 0:
+        raise SystemExit(f'Bench.exe {subject} {size} ended with {process.returncode}')
+    return figures
+
+
+def main(folder, result, quick):
+    fixtures = Fixtures(os.environ['WINEPREFIX'])
+    library = os.path.getsize(os.path.join(folder, 'TMgmt.dll'))
+    figures = [Figure('TMgmt.dll: size', 0, 'bytes', [library], [])]
+    for subject, sizes in SUBJECTS.items():
+        for size in sizes:
+            if not quick or size <= QUICK_LARGEST:
+                print(f'  {subject} {size or ""}', file=sys.stderr)
+                figures += run(os.path.join(folder, 'Bench.exe'), subject, size,
+                               QUICK_REPETITIONS if quick else REPETITIONS, fixtures)
+    fixtures.remove()
+    text = '\n'.join(table(figures))
+    print(text)
+    with open(result, 'w', encoding='utf-8') as file:
+        file.write(text + '\n')
+
+
+if __name__ == '__main__':
+    main(sys.argv[1], sys.argv[2], '--quick' in sys.argv[3:])

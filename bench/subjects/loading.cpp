@@ -1,0 +1,90 @@
+#include "Report.h"
+#include "Stage.h"
+#include "floor/FloorObject.h"
+#include "kit/ConsoleTest.h"
+#include "subjects/subjects.h"
+
+#include "Fixtures.h"
+#include "console/host/Registration.h"
+
+#include <wrl/client.h>
+
+#include <stdexcept>
+
+namespace Bench
+{
+namespace
+{
+
+using Factory = Microsoft::WRL::ComPtr<IClassFactory>;
+
+Factory plugInLibrary()
+{
+    Factory factory;
+    if (FAILED(CoGetClassObject(Acceptance::snapInClass, CLSCTX_INPROC_SERVER, nullptr,
+                                IID_PPV_ARGS(factory.GetAddressOf()))))
+    {
+        throw std::runtime_error("the plug-in cannot be loaded; register it");
+    }
+    return factory;
+}
+
+// From nothing to the opened root, and back.
+void loadAndTakeDown(const CLSID& clsid)
+{
+    Console::Host host;
+    const Console::SnapIn& snapIn = host.addSnapIn(clsid);
+    host.tree().expand(snapIn.root());
+    if (host.tree().children(snapIn.root()).empty())
+    {
+        throw std::runtime_error("nothing below the root");
+    }
+}
+
+void mapLibrary(const std::wstring& library)
+{
+    const HMODULE module = LoadLibraryExW(library.c_str(), nullptr, LOAD_LIBRARY_AS_IMAGE_RESOURCE);
+    if (!module)
+    {
+        throw std::runtime_error("the library cannot be mapped");
+    }
+    FreeLibrary(module);
+}
+
+} // namespace
+
+// Empty files and databases, then (size) that many log files.
+void loading(std::size_t size, std::size_t repetitions)
+{
+    Fixtures::make(size == 0 ? "nothing" : "logs", size);
+    if (size == 0)
+    {
+        const std::wstring library = Console::inspectServer(Acceptance::snapInClass).library;
+        const auto unload = [] { Console::Host::freeUnusedLibraries(); };
+        compare("TMgmt.dll into memory and out", 0, repetitions,
+                {.act =
+                     []
+                 {
+                     plugInLibrary();
+                     Console::Host::freeUnusedLibraries();
+                 },
+                 .before = unload},
+                {.act = [&] { mapLibrary(library); }, .before = unload});
+    }
+    const FloorNode floor{.name = L"KV Tessaro 2010",
+                          .children = {{.name = L"Engine Settings", .children = {{.name = L"Settings"}}},
+                                       {.name = L"Hot Folders"},
+                                       {.name = L"Server Templates"},
+                                       {.name = L"Users"},
+                                       {.name = L"Server Certificates"},
+                                       {.name = L"Log", .children = {{.name = L"Log Files"}}},
+                                       {.name = L"About KV Tessaro"}}};
+    const FloorRegistration registration(floor);
+    const Factory kept = plugInLibrary();
+    kept->LockServer(TRUE);
+    compare("Plug-in: load, open its root, take down", size, repetitions,
+            {.act = [] { loadAndTakeDown(Acceptance::snapInClass); }}, {.act = [] { loadAndTakeDown(floorClass); }});
+    kept->LockServer(FALSE);
+}
+
+} // namespace Bench

@@ -1,0 +1,125 @@
+#include "Fixtures.h"
+#include "HeapUse.h"
+#include "List.h"
+#include "Report.h"
+#include "subjects/subjects.h"
+
+#include <stdexcept>
+
+namespace Bench
+{
+namespace
+{
+
+std::wstring folderOf(std::size_t size)
+{
+    return L"C:\\bench\\logs-" + std::to_wstring(size) + L"\\"; // where fixtures.py puts them
+}
+
+std::vector<std::wstring> namesIn(const std::wstring& folder)
+{
+    std::vector<std::wstring> names;
+    WIN32_FIND_DATAW found{};
+    const HANDLE search = FindFirstFileExW((folder + L"*.log").c_str(), FindExInfoBasic, &found, FindExSearchNameMatch,
+                                           nullptr, FIND_FIRST_EX_LARGE_FETCH);
+    if (search == INVALID_HANDLE_VALUE)
+    {
+        return names;
+    }
+    do
+    {
+        names.emplace_back(found.cFileName);
+    } while (FindNextFileW(search, &found));
+    FindClose(search);
+    return names;
+}
+
+void deleteFile(const std::wstring& path)
+{
+    if (!DeleteFileW(path.c_str()))
+    {
+        throw std::runtime_error("a log file cannot be deleted");
+    }
+}
+
+// What a list of that many rows keeps on the heap while it is shown.
+std::size_t memoryOf(Stage& stage, List& list, std::size_t size)
+{
+    stage.leave();
+    const std::size_t before = heapUse();
+    Fixtures::make("logs", size);
+    list.show();
+    list.expectRows(size);
+    const std::size_t after = heapUse();
+    Fixtures::make("logs", 0);
+    list.show();
+    stage.leave();
+    return after - before;
+}
+
+} // namespace
+
+void logFiles(std::size_t size, std::size_t repetitions)
+{
+    Fixtures::make("logs", 0);
+    const std::wstring folder = folderOf(size);
+    FloorNode floor{
+        .name = L"Floor",
+        .children = {
+            {.name = L"Log Files", .columns = {L"Log name"}, .read = [&] { return namesIn(folder); }, .change = {}}}};
+    std::function<void()>& change = floor.children.front().change;
+    Stage stage(floor);
+    List plugIn(stage, stage.plugIn(), {L"Log", L"Log Files"});
+    List lowest(stage, stage.floor(), {L"Log Files"});
+    plugIn.show();
+    lowest.show();
+    reportBytes("Log Files: memory", size, memoryOf(stage, plugIn, size), memoryOf(stage, lowest, size));
+
+    Fixtures::make("logs", size);
+    const auto leave = [&] { stage.leave(); };
+    const auto show = [](List& list) { return [&list] { list.show(); }; };
+    const auto expect = [&](std::size_t rows)
+    {
+        return [&, rows]
+        {
+            plugIn.expectRows(rows);
+            Fixtures::make("logs", size);
+        };
+    };
+    compare("Log Files: show", size, repetitions, {.act = show(plugIn), .before = leave, .after = expect(size)},
+            {.act = show(lowest), .before = leave, .after = expect(size)});
+    compare("Log Files: leave", size, repetitions, {.act = leave, .before = show(plugIn)},
+            {.act = leave, .before = show(lowest)});
+    compare("Log Files: read every text", size, repetitions,
+            {.act = [&] { plugIn.readTexts(); }, .before = show(plugIn), .after = expect(size)},
+            {.act = [&] { lowest.readTexts(); }, .before = show(lowest), .after = expect(size)});
+    compare("Log Files: refresh", size, repetitions,
+            {.act = [&] { plugIn.refresh(); }, .before = show(plugIn), .after = expect(size)},
+            {.act = [&] { lowest.refresh(); }, .before = show(lowest), .after = expect(size)});
+
+    const std::wstring middle = folder + namesIn(folder)[size / 2];
+    change = [&] { deleteFile(middle); };
+    compare("Log Files: delete one", size, repetitions,
+            {.act = [&] { plugIn.deleteSelected(); },
+             .before =
+                 [&]
+             {
+                 plugIn.show();
+                 plugIn.select(plugIn.middle());
+             },
+             .after = expect(size - 1)},
+            {.act = [&] { lowest.refresh(); }, .before = show(lowest), .after = expect(size - 1)});
+
+    change = [&]
+    {
+        for (const std::wstring& name : namesIn(folder))
+        {
+            deleteFile(folder + name);
+        }
+    };
+    compare("Log Files: delete all", size, repetitions,
+            {.act = [&] { plugIn.runCommand(L"Delete All"); }, .before = show(plugIn), .after = expect(0)},
+            {.act = [&] { lowest.refresh(); }, .before = show(lowest), .after = expect(0)});
+}
+
+} // namespace Bench
