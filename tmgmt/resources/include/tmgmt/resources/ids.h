@@ -14,10 +14,13 @@
 #define IDD_ACTIONS 245
 #define IDD_ACTION 246
 #define IDD_EDIT_BOOL_PROPERTY 248
+#define IDD_EDIT_PRIVATE_FONT 256
 #define IDD_HOT_FOLDER_SETTINGS 1069
 
 /* menus */
 #define IDM_PROPERTY 202
+#define IDM_PRIVATE_FONTS 255
+#define IDM_PRIVATE_FONT 257
 #define IDM_HOT_FOLDERS 258
 #define IDM_HOT_FOLDER 259
 
@@ -40,6 +43,8 @@
 #define ID_START_SERVICE 1002
 #define ID_STOP_SERVICE 1003
 #define ID_ADD_HOT_FOLDER 1022
+#define ID_ADD_PRIVATE_FONT 1042
+#define ID_EDIT_PRIVATE_FONT 1044
 #define ID_HOT_FOLDER_PROPERTIES 1048
 
 /* controls of the property editors */
@@ -55,6 +60,13 @@
 #define IDC_PROPERTY_TRUE 268
 #define IDC_PROPERTY_FALSE 269
 #define IDC_RESTART_SERVICE 273
+
+/* controls of the editor of a private font, which has IDC_RESTART_SERVICE too */
+#define IDC_FONT_NAME 232
+#define IDC_FONT_FILE 233
+#define IDC_FONT_BROWSE 237
+#define IDC_FONT_BOLD 270
+#define IDC_FONT_ITALIC 271
 
 /* controls of the hot folder editor, which has IDC_RESTART_SERVICE too */
 #define IDC_HOT_FOLDER_INPUT 232
