@@ -17,7 +17,7 @@ namespace TMgmt
 
 RootBranches makeBranches()
 {
-    const Core::SmartPtr<SettingsFileReport> report(new SettingsFileReport);
+    const Core::SmartPtr<FileReport> report(new FileReport);
     // Members are made in their order: the settings first, as they are declared.
     SettingsBranches settings{
         .afpEncoder = new AFPEncoderSettingsItem(report),

@@ -6,7 +6,7 @@
 namespace TMgmt
 {
 
-AFPEncoderSettingsItem::AFPEncoderSettingsItem(const Core::SmartPtr<SettingsFileReport>& report)
+AFPEncoderSettingsItem::AFPEncoderSettingsItem(const Core::SmartPtr<FileReport>& report)
     : Item(ScopeNode{.displayName = L"AFP Encoder", .image = 1, .childCount = 0})
 {
     m_properties.emplace_back(new PropertyItem(SettingKey::afpConvertToGrayscale, L"false", PropertyKind::boolean,

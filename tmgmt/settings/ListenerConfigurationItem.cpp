@@ -15,7 +15,7 @@ constexpr int defaultBacklog = 50;
 
 } // namespace
 
-ListenerConfigurationItem::ListenerConfigurationItem(const Core::SmartPtr<SettingsFileReport>& report)
+ListenerConfigurationItem::ListenerConfigurationItem(const Core::SmartPtr<FileReport>& report)
     : Item(ScopeNode{.displayName = L"Listener Configuration", .image = 13, .childCount = 0}),
       m_address(new PropertyItem(SettingKey::serverAddress, L"0.0.0.0", PropertyKind::text, L"IP Address",
                                  L"The server will use the specified IP address to listen for incoming requests. Use "

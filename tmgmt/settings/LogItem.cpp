@@ -7,7 +7,7 @@
 namespace TMgmt
 {
 
-LogItem::LogItem(const Core::SmartPtr<SettingsFileReport>& report, Core::SmartPtr<CSnapInItem> logFiles)
+LogItem::LogItem(const Core::SmartPtr<FileReport>& report, Core::SmartPtr<CSnapInItem> logFiles)
     : Item(ScopeNode{.displayName = L"Log", .image = 8, .childCount = 1}), m_logFiles(std::move(logFiles))
 {
     // The description speaks of two levels, and four are offered: kept as is, administrators have it in their papers.

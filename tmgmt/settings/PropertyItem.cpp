@@ -11,15 +11,13 @@ namespace TMgmt
 {
 
 PropertyItem::PropertyItem(const wchar_t* key, const Core::String& defaultValue, PropertyKind kind,
-                           const wchar_t* displayName, const wchar_t* description,
-                           Core::SmartPtr<SettingsFileReport> report)
+                           const wchar_t* displayName, const wchar_t* description, Core::SmartPtr<FileReport> report)
     : PropertyItem(key, defaultValue, kind, {}, displayName, description, std::move(report))
 {
 }
 
 PropertyItem::PropertyItem(const wchar_t* key, const Core::String& defaultValue, PropertyOptions options,
-                           const wchar_t* displayName, const wchar_t* description,
-                           Core::SmartPtr<SettingsFileReport> report)
+                           const wchar_t* displayName, const wchar_t* description, Core::SmartPtr<FileReport> report)
     : PropertyItem(key, defaultValue, PropertyKind::enumeration, std::move(options), displayName, description,
                    std::move(report))
 {
@@ -27,7 +25,7 @@ PropertyItem::PropertyItem(const wchar_t* key, const Core::String& defaultValue,
 
 PropertyItem::PropertyItem(const wchar_t* key, const Core::String& defaultValue, PropertyKind kind,
                            PropertyOptions options, const wchar_t* displayName, const wchar_t* description,
-                           Core::SmartPtr<SettingsFileReport> report)
+                           Core::SmartPtr<FileReport> report)
     : Item(ResultNode{.displayName = L"Property Item", .image = 2}),
       m_key(key),
       m_default(defaultValue),

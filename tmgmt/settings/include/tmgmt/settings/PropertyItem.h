@@ -3,8 +3,8 @@
 #include <optional>
 
 #include "brimlow/system/String.h"
+#include "tmgmt/frame/FileReport.h"
 #include "tmgmt/frame/Item.h"
-#include "tmgmt/settings/SettingsFileReport.h"
 #include "tmgmt/settings/rules/PropertyFormat.h"
 
 namespace TMgmt
@@ -21,10 +21,10 @@ class PropertyItem : public Item<PropertyItem>
     // key, displayName and description are constants of the group and are not copied. A file that cannot be read is
     // told to the report, and the default shown.
     PropertyItem(const wchar_t* key, const Core::String& defaultValue, PropertyKind kind, const wchar_t* displayName,
-                 const wchar_t* description, Core::SmartPtr<SettingsFileReport> report);
+                 const wchar_t* description, Core::SmartPtr<FileReport> report);
     // An enumeration.
     PropertyItem(const wchar_t* key, const Core::String& defaultValue, PropertyOptions options,
-                 const wchar_t* displayName, const wchar_t* description, Core::SmartPtr<SettingsFileReport> report);
+                 const wchar_t* displayName, const wchar_t* description, Core::SmartPtr<FileReport> report);
 
     // Reloads the value from the server configuration file. Throws Core::Exception, with nothing changed.
     void refresh();
@@ -40,7 +40,7 @@ class PropertyItem : public Item<PropertyItem>
 
   private:
     PropertyItem(const wchar_t* key, const Core::String& defaultValue, PropertyKind kind, PropertyOptions options,
-                 const wchar_t* displayName, const wchar_t* description, Core::SmartPtr<SettingsFileReport> report);
+                 const wchar_t* displayName, const wchar_t* description, Core::SmartPtr<FileReport> report);
 
     void show(const std::optional<Core::String>& stored);
     INT_PTR askForValue(Core::String& value, bool& restart);
@@ -55,7 +55,7 @@ class PropertyItem : public Item<PropertyItem>
     ShownProperty m_shown;
     PropertyOptions m_options;
     bool m_isDefault = true;
-    Core::SmartPtr<SettingsFileReport> m_report;
+    Core::SmartPtr<FileReport> m_report;
 };
 
 } // namespace TMgmt

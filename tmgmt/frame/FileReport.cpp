@@ -1,11 +1,11 @@
-#include "tmgmt/settings/SettingsFileReport.h"
+#include "tmgmt/frame/FileReport.h"
 
 #include "tmgmt/ui/messageBox.h"
 
 namespace TMgmt
 {
 
-void SettingsFileReport::failed(const Core::Exception& exception)
+void FileReport::failed(const Core::Exception& exception)
 {
     if (m_shown == exception.getMessage())
     {

@@ -6,9 +6,9 @@
 namespace TMgmt
 {
 
-// Tells the administrator once, not once a row, that the server configuration file cannot be read. The groups of one
-// tree share one report.
-class SettingsFileReport : public Core::Object
+// Tells the administrator once, not once a row or a refresh, that a file cannot be read. Each file has a report of its
+// own, which all who show it share.
+class FileReport : public Core::Object
 {
   public:
     // Shows the message unless it was the last one shown.

@@ -1,0 +1,49 @@
+#include "tmgmt/frame/ServerFile.h"
+
+#include "brimlow/system/FileSystem.h"
+#include "brimlow/system/Process.h"
+
+namespace TMgmt
+{
+namespace
+{
+
+Core::Configuration loadFrom(const Core::String& path)
+{
+    Core::Configuration configuration;
+    if (Core::IO::FileSystem::fileExists(path))
+    {
+        configuration.loadFrom(path);
+    }
+    return configuration;
+}
+
+} // namespace
+
+Core::Configuration ServerFile::load() const
+{
+    return loadFrom(path());
+}
+
+void ServerFile::setValue(const Core::String& key, const Core::String& value) const
+{
+    const Core::String path = this->path();
+    Core::Configuration configuration = loadFrom(path);
+    configuration.setValue(key, value, path);
+    configuration.saveTo(path);
+}
+
+void ServerFile::deleteValue(const Core::String& key) const
+{
+    const Core::String path = this->path();
+    Core::Configuration configuration = loadFrom(path);
+    configuration.deleteValue(key);
+    configuration.saveTo(path);
+}
+
+Core::String ServerFile::path() const
+{
+    return Core::IO::FileSystem::combinePath(Core::Process::getCommonAppDataFolder(), m_relativePath);
+}
+
+} // namespace TMgmt
