@@ -65,7 +65,16 @@ TEST_F(Application, FolderIsTheStoredTextExpanded)
         String folder;
     } cases[] = {
         {L"D:\\Logs", L"D:\\Logs"},
+        {L"%APP_DATA%", data},
         {L"%APP_DATA%\\L", data + L"\\L"},
+        {L"%APP_DATA%\\L\\", data + L"\\L\\"},
+        {L"%APP_DATA%/L/", data + L"/L/"},
+        {L"D:\\%APP_DATA%", L"D:\\" + data},
+        {L"Logs", L"Logs"},
+        {L"..\\Logs\\", L"..\\Logs\\"},
+        {L"%TEMP%\\L", L"%TEMP%\\L"},
+        {L"\\\\server\\share\\L", L"\\\\server\\share\\L"},
+        {L" D:\\L ", L" D:\\L "},
         {L"X%APP_DATA%Y%APP_DATA%", L"X" + data + L"Y" + data},
         {L"%app_data%\\L", L"%app_data%\\L"},
         {L"%APP_DATA", L"%APP_DATA"},
@@ -76,6 +85,14 @@ TEST_F(Application, FolderIsTheStoredTextExpanded)
         setLogFolder(stored);
         EXPECT_EQ(folder, Core::Application::getFolder(L"LogFolder", L"unused"));
     }
+}
+
+TEST_F(Application, FolderIsReadAnewEveryTime)
+{
+    setLogFolder(L"D:\\Logs");
+    EXPECT_EQ(String(L"D:\\Logs"), Core::Application::getFolder(L"LogFolder", L"unused"));
+    setLogFolder(L"E:\\Logs");
+    EXPECT_EQ(String(L"E:\\Logs"), Core::Application::getFolder(L"LogFolder", L"unused"));
 }
 
 TEST_F(Application, MalformedServerConfigurationIsReported)

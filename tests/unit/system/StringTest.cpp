@@ -104,6 +104,8 @@ TEST(String, Appends)
     text += String();
     EXPECT_EQ(String(L"abc"), text + L"c");
     EXPECT_EQ(String(L"ab"), text);
+    EXPECT_EQ(&text, &text.append(L"\\"));
+    EXPECT_EQ(String(L"ab\\"), text);
 }
 
 TEST(String, KeepsZeros)
