@@ -39,6 +39,7 @@ using Menu = Owner<NullTraits<HMENU, DestroyMenu>>;
 using Icon = Owner<NullTraits<HICON, DestroyIcon>>;
 using Bitmap = Owner<BitmapTraits>;
 using Font = Owner<FontTraits>;
+using Library = Owner<NullTraits<HMODULE, FreeLibrary>>;
 using LocalMemory = Owner<NullTraits<HLOCAL, LocalFree>>;
 using GlobalMemory = Owner<NullTraits<HGLOBAL, GlobalFree>>;
 // Strings that cross a COM interface.

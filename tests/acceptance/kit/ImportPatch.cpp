@@ -29,18 +29,18 @@ void** findImport(HMODULE module, const char* name)
             }
         }
     }
-    throw std::runtime_error(std::string("TMgmt.dll does not import ") + name);
+    throw std::runtime_error(std::string("the module does not import ") + name);
 }
 
 } // namespace
 
-ImportPatch::ImportPatch(const char* name, void* replacement) : m_module(LoadLibraryW(L"TMgmt.dll"))
+ImportPatch::ImportPatch(const char* name, void* replacement, const wchar_t* module)
 {
-    if (!m_module)
+    if (!GetModuleHandleExW(0, module, m_module.put()))
     {
-        throw std::runtime_error("TMgmt.dll is not loaded");
+        throw std::runtime_error("the module is not loaded");
     }
-    m_place = findImport(m_module, name);
+    m_place = findImport(m_module.get(), name);
     m_former = *m_place;
     write(replacement);
 }
@@ -48,7 +48,6 @@ ImportPatch::ImportPatch(const char* name, void* replacement) : m_module(LoadLib
 ImportPatch::~ImportPatch()
 {
     write(m_former);
-    FreeLibrary(m_module);
 }
 
 void ImportPatch::write(void* function) const
