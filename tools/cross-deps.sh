@@ -1,53 +1,85 @@
 #!/usr/bin/env bash
 # Builds the libraries that Debian has no Windows packages of, once, into a cache outside the checkout:
-# pugixml from Debian's source package, GoogleTest from the sources that the package googletest installs.
+# pugixml and SQLite from Debian's source packages, GoogleTest from the sources that the package googletest installs.
 # Prints the folder, for TM_WINDOWS_DEPS.
 set -euo pipefail
 here=$(cd "$(dirname "$0")/.." && pwd)
 
 pugixml_version=$(dpkg-query -W -f='${source:Upstream-Version}' libpugixml-dev)
+sqlite_version=$(dpkg-query -W -f='${Version}' libsqlite3-dev)
 gtest_version=$(dpkg-query -W -f='${Version}' googletest)
 compiler=$(x86_64-w64-mingw32-g++-posix -dumpfullversion)
 cache=${XDG_CACHE_HOME:-$HOME/.cache}/kv-tessaro-management
-deps=$cache/windows-x64-gcc$compiler-pugixml$pugixml_version-gtest$gtest_version
-if [ -e "$deps/complete" ]; then
+deps=$cache/windows-x64-gcc$compiler-pugixml$pugixml_version-sqlite$sqlite_version-gtest$gtest_version
+if [ -e "$deps" ]; then
   echo "$deps"
   exit 0
 fi
 
-work=$(mktemp -d)
+# The folder gets its name when everything is in it, so that it is complete whenever it exists.
+mkdir -p "$cache"
+work=$(mktemp -d "$cache/building.XXXXXX")
 trap 'rm -rf "$work"' EXIT
-rm -rf "$deps"
-mkdir -p "$deps"
+mkdir -p "$work/lists/partial" "$work/src" "$work/deps/include" "$work/deps/lib"
 
-# apt fetches sources only from source lists; a machine usually has none, so Debian's own binary lists serve as a model.
-fetch_source() {
-  mkdir -p "$work/lists/partial" "$work/src"
-  if [ -e /etc/apt/sources.list.d/debian.sources ]; then
-    sed 's/^Types:.*/Types: deb-src/' /etc/apt/sources.list.d/debian.sources >"$work/src.sources"
-  else
-    sed -n 's/^deb /deb-src /p' /etc/apt/sources.list >"$work/src.list"
-  fi
-  local options=(-qq -o "Dir::Etc::sourcelist=$(ls "$work"/src.sources "$work"/src.list 2>/dev/null)"
-    -o Dir::Etc::sourceparts=- -o "Dir::State::lists=$work/lists")
-  apt-get "${options[@]}" update >&2
-  (cd "$work/src" && apt-get "${options[@]}" source "$1" >&2)
-}
-
-build() {
-  cmake -S "$1" -B "$work/build-$2" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$here/cmake/mingw-w64.cmake" \
-    -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX="$deps" -DBUILD_SHARED_LIBS=OFF "${@:3}" >"$work/$2.log" 2>&1 &&
-    cmake --build "$work/build-$2" --target install >>"$work/$2.log" 2>&1 || {
-    cat "$work/$2.log" >&2
+# logged NAME COMMAND…: shows what the command says only when it fails.
+logged() {
+  "${@:2}" >>"$work/$1.log" 2>&1 || {
+    cat "$work/$1.log" >&2
     exit 1
   }
 }
 
-echo "Building pugixml $pugixml_version for Windows (once)" >&2
-fetch_source pugixml
-build "$(find "$work/src" -mindepth 1 -maxdepth 1 -type d -name 'pugixml-*')" pugixml
-echo "Building GoogleTest $gtest_version for Windows (once)" >&2
-build /usr/src/googletest googletest -DINSTALL_GTEST=ON
+# apt fetches sources only from source lists; a machine usually has none, so Debian's own binary lists serve as a model.
+if [ -e /etc/apt/sources.list.d/debian.sources ]; then
+  sources=$work/src.sources
+  sed 's/^Types:.*/Types: deb-src/' /etc/apt/sources.list.d/debian.sources >"$sources"
+else
+  sources=$work/src.list
+  sed -n 's/^deb /deb-src /p' /etc/apt/sources.list >"$sources"
+fi
+source_apt() {
+  logged apt apt-get -qq -o "Dir::Etc::sourcelist=$sources" -o Dir::Etc::sourceparts=- \
+    -o "Dir::State::lists=$work/lists" "$@"
+}
 
-touch "$deps/complete"
+# fetch_source PACKAGE: prints the folder of its sources, with Debian's patches.
+fetch_source() {
+  (cd "$work/src" && source_apt source "$1")
+  find "$work/src" -mindepth 1 -maxdepth 1 -type d -name "$1-*"
+}
+
+# build_cmake SOURCES NAME OPTIONS…
+build_cmake() {
+  logged "$2" cmake -S "$1" -B "$work/build-$2" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$here/cmake/mingw-w64.cmake" \
+    -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX="$work/deps" -DBUILD_SHARED_LIBS=OFF "${@:3}"
+  logged "$2" cmake --build "$work/build-$2" --target install
+}
+
+# build_sqlite SOURCES: joins them to the one file that SQLite is meant to be compiled as. No extension is loaded from
+# elsewhere, and a text in double quotes is never taken for a string.
+build_sqlite() {
+  mkdir "$work/build-sqlite"
+  cd "$work/build-sqlite"
+  logged sqlite "$1/configure" --disable-tcl --disable-shared
+  logged sqlite make sqlite3.c sqlite3.h
+  logged sqlite x86_64-w64-mingw32-gcc-posix -O2 -DSQLITE_THREADSAFE=1 -DSQLITE_OMIT_LOAD_EXTENSION -DSQLITE_DQS=0 \
+    -c sqlite3.c
+  logged sqlite x86_64-w64-mingw32-ar rcs "$work/deps/lib/libsqlite3.a" sqlite3.o
+  cp sqlite3.h "$work/deps/include"
+  cd "$here"
+}
+
+source_apt update
+echo "Building pugixml $pugixml_version for Windows (once)" >&2
+pugixml=$(fetch_source pugixml)
+build_cmake "$pugixml" pugixml
+echo "Building SQLite $sqlite_version for Windows (once)" >&2
+sqlite=$(fetch_source sqlite3)
+build_sqlite "$sqlite"
+echo "Building GoogleTest $gtest_version for Windows (once)" >&2
+build_cmake /usr/src/googletest googletest -DINSTALL_GTEST=ON
+
+# Where two builds ran at once, the first one's result stays.
+mv -T "$work/deps" "$deps" 2>/dev/null || [ -e "$deps" ]
 echo "$deps"
