@@ -1,13 +1,15 @@
 #include "Stage.h"
 
 #include "floor/FloorObject.h"
-#include "kit/ConsoleTest.h"
 #include "kit/windows.h"
 
 #include <stdexcept>
 
 namespace Bench
 {
+
+const CLSID plugInClass{0xB86BF80B, 0x252D, 0x44CD, {0x8D, 0x11, 0xD8, 0xEA, 0x4C, 0x17, 0x02, 0xED}};
+
 namespace
 {
 
@@ -25,7 +27,7 @@ Console::SnapIn& load(Console::Host& host, const CLSID& clsid)
 
 Stage::Stage(const FloorNode& floor)
     : m_registration(floor),
-      m_plugIn(load(m_host, Acceptance::snapInClass)),
+      m_plugIn(load(m_host, plugInClass)),
       m_floor(load(m_host, floorClass)),
       m_view(m_host.openView(m_listener))
 {

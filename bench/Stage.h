@@ -9,6 +9,8 @@
 namespace Bench
 {
 
+extern const CLSID plugInClass;
+
 // A console with the plug-in and the floor in it, and one view.
 class Stage
 {

@@ -43,7 +43,7 @@ FloorRegistration::FloorRegistration(const FloorNode& root) : m_key(classKey())
     const DWORD length = GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size()));
     const LSTATUS status = RegSetKeyValueW(HKEY_LOCAL_MACHINE, (m_key + L"\\InprocServer32").c_str(), nullptr, REG_SZ,
                                            program.data(), static_cast<DWORD>((length + 1) * sizeof(wchar_t)));
-    const auto factory = platform::takeReference(new Factory(root));
+    const Microsoft::WRL::ComPtr<IClassFactory> factory = platform::takeReference<IClassFactory>(new Factory(root));
     if (status != ERROR_SUCCESS ||
         FAILED(CoRegisterClassObject(floorClass, factory.Get(), CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &m_cookie)))
     {

@@ -1,11 +1,9 @@
+#include "Fixtures.h"
 #include "Report.h"
 #include "Stage.h"
-#include "floor/FloorObject.h"
-#include "kit/ConsoleTest.h"
-#include "subjects/subjects.h"
-
-#include "Fixtures.h"
 #include "console/host/Registration.h"
+#include "floor/FloorObject.h"
+#include "subjects/subjects.h"
 
 #include <wrl/client.h>
 
@@ -21,8 +19,7 @@ using Factory = Microsoft::WRL::ComPtr<IClassFactory>;
 Factory plugInLibrary()
 {
     Factory factory;
-    if (FAILED(CoGetClassObject(Acceptance::snapInClass, CLSCTX_INPROC_SERVER, nullptr,
-                                IID_PPV_ARGS(factory.GetAddressOf()))))
+    if (FAILED(CoGetClassObject(plugInClass, CLSCTX_INPROC_SERVER, nullptr, IID_PPV_ARGS(factory.GetAddressOf()))))
     {
         throw std::runtime_error("the plug-in cannot be loaded; register it");
     }
@@ -59,7 +56,7 @@ void loading(std::size_t size, std::size_t repetitions)
     Fixtures::make(size == 0 ? "nothing" : "logs", size);
     if (size == 0)
     {
-        const std::wstring library = Console::inspectServer(Acceptance::snapInClass).library;
+        const std::wstring library = Console::inspectServer(plugInClass).library;
         const auto unload = [] { Console::Host::freeUnusedLibraries(); };
         compare("TMgmt.dll into memory and out", 0, repetitions,
                 {.act =
@@ -82,8 +79,8 @@ void loading(std::size_t size, std::size_t repetitions)
     const FloorRegistration registration(floor);
     const Factory kept = plugInLibrary();
     kept->LockServer(TRUE);
-    compare("Plug-in: load, open its root, take down", size, repetitions,
-            {.act = [] { loadAndTakeDown(Acceptance::snapInClass); }}, {.act = [] { loadAndTakeDown(floorClass); }});
+    compare("Plug-in: load, open its root, take down", size, repetitions, {.act = [] { loadAndTakeDown(plugInClass); }},
+            {.act = [] { loadAndTakeDown(floorClass); }});
     kept->LockServer(FALSE);
 }
 

@@ -1,12 +1,14 @@
+#include "DialogAnswer.h"
 #include "Fixtures.h"
 #include "List.h"
 #include "Report.h"
 #include "floor/floorDialog.h"
-#include "kit/Robot.h"
 #include "kit/ServerFiles.h"
 #include "subjects/subjects.h"
 
 #include <brimlow/system/Configuration.h>
+
+#include <optional>
 
 namespace Bench
 {
@@ -55,18 +57,6 @@ void deleteMapping(const wchar_t* key)
     changeFile([&](Core::Configuration& store) { store.deleteValue(key); });
 }
 
-void answerFontDialog(Acceptance::ModalWindow& dialog)
-{
-    SetDlgItemTextW(dialog.handle(), nameEdit, L"Bench");
-    SetDlgItemTextW(dialog.handle(), fileEdit, L"C:\\Windows\\Fonts\\bench.ttf");
-    dialog.press(IDOK);
-}
-
-void answerFloorDialog(Acceptance::ModalWindow& dialog)
-{
-    dialog.press(IDOK);
-}
-
 } // namespace
 
 void privateFonts(std::size_t size, std::size_t repetitions)
@@ -79,7 +69,6 @@ void privateFonts(std::size_t size, std::size_t repetitions)
                                   .change = {}}}};
     std::function<void()>& change = floor.children.front().change;
     Stage stage(floor);
-    Acceptance::Robot robot(stage.frame().handle());
     List plugIn(stage, stage.plugIn(), {L"Engine Settings", L"Private Fonts"});
     List lowest(stage, stage.floor(), {L"Private Fonts"});
 
@@ -102,17 +91,18 @@ void privateFonts(std::size_t size, std::size_t repetitions)
             {.act = [&] { plugIn.refresh(); }, .before = show(plugIn), .after = expect(size)},
             {.act = [&] { lowest.refresh(); }, .before = show(lowest), .after = expect(size)});
 
-    const auto showForDialog = [&](List& list, const wchar_t* caption, Acceptance::Robot::Action answer)
+    std::optional<DialogAnswer> answer;
+    const auto showAndAwait = [&](List& list)
     {
-        return [&stage, &robot, &list, caption, answer]
+        return [&]
         {
             list.show();
             stage.frame().activate();
-            robot.dialog(caption, answer);
+            answer.reset();
+            answer.emplace(
+                std::map<int, std::wstring>{{nameEdit, L"Bench"}, {fileEdit, L"C:\\Windows\\Fonts\\new.ttf"}});
         };
     };
-    const auto showFont = showForDialog(plugIn, L"Edit Private Font", answerFontDialog);
-    const auto showFloor = showForDialog(lowest, L"Floor", answerFloorDialog);
 
     change = []
     {
@@ -120,8 +110,10 @@ void privateFonts(std::size_t size, std::size_t repetitions)
         setMapping(L"MapFont:BENCH");
     };
     compare("Private Fonts: add one", size, repetitions,
-            {.act = [&] { plugIn.runCommand(L"&Add Private Font..."); }, .before = showFont, .after = expect(size + 1)},
-            {.act = [&] { lowest.refresh(); }, .before = showFloor, .after = expect(size + 1)});
+            {.act = [&] { plugIn.runCommand(L"&Add Private Font..."); },
+             .before = showAndAwait(plugIn),
+             .after = expect(size + 1)},
+            {.act = [&] { lowest.refresh(); }, .before = showAndAwait(lowest), .after = expect(size + 1)});
 
     plugIn.show();
     const std::wstring key = L"MapFont:" + plugIn.text(plugIn.middle(), 0);
@@ -132,9 +124,10 @@ void privateFonts(std::size_t size, std::size_t repetitions)
         setMapping(L"MapFont:BENCH");
     };
     compare("Private Fonts: edit one", size, repetitions,
-            {.act = [&] { plugIn.open(plugIn.middle()); }, .before = showFont, .after = expect(size)},
-            {.act = [&] { lowest.refresh(); }, .before = showFloor, .after = expect(size)});
+            {.act = [&] { plugIn.open(plugIn.middle()); }, .before = showAndAwait(plugIn), .after = expect(size)},
+            {.act = [&] { lowest.refresh(); }, .before = showAndAwait(lowest), .after = expect(size)});
 
+    answer.reset();
     change = [&] { deleteMapping(key.c_str()); };
     compare("Private Fonts: delete one", size, repetitions,
             {.act = [&] { plugIn.deleteSelected(); },
