@@ -17,8 +17,10 @@
 #define IDD_EDIT_PRIVATE_FONT 256
 #define IDD_HOT_FOLDER_SETTINGS 1069
 
-/* menus */
+/* menus; 102 is a registry script too, of another type */
+#define IDM_LOG_FILES 102
 #define IDM_PROPERTY 202
+#define IDM_LOG_FILE 252
 #define IDM_PRIVATE_FONTS 255
 #define IDM_PRIVATE_FONT 257
 #define IDM_HOT_FOLDERS 258
@@ -43,6 +45,8 @@
 #define ID_START_SERVICE 1002
 #define ID_STOP_SERVICE 1003
 #define ID_ADD_HOT_FOLDER 1022
+#define ID_DELETE_ALL_LOGS 1038
+#define ID_OPEN_LOG 1041
 #define ID_ADD_PRIVATE_FONT 1042
 #define ID_EDIT_PRIVATE_FONT 1044
 #define ID_HOT_FOLDER_PROPERTIES 1048
