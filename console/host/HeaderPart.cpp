@@ -65,10 +65,6 @@ HRESULT HeaderPart::insert(int column, LPCWSTR title, int format, int width)
         return E_FAIL;
     }
     const int count = static_cast<int>(pane->columns.size());
-    if (column > count && m_whole.objects(L"A column was inserted that leaves a gap."))
-    {
-        return E_INVALIDARG;
-    }
     Column added;
     added.title = title;
     added.format = format & LVCFMT_JUSTIFYMASK;
@@ -82,6 +78,7 @@ HRESULT HeaderPart::insert(int column, LPCWSTR title, int format, int width)
     }
     added.hidden = width == HIDE_COLUMN;
     added.width = width == MMCLV_AUTO || added.hidden ? widthOfTitle(added.title) : std::max(width, 0);
+    // A position behind the last column stands for the last one, as in a list view.
     pane->columns.insert(pane->columns.begin() + std::min(column, count), std::move(added));
     changed();
     return S_OK;

@@ -20,6 +20,11 @@ Core::Configuration loadFrom(const Core::String& path)
 
 } // namespace
 
+Core::String ServerFile::path() const
+{
+    return Core::IO::FileSystem::combinePath(Core::Process::getCommonAppDataFolder(), m_relativePath);
+}
+
 Core::Configuration ServerFile::load() const
 {
     return loadFrom(path());
@@ -39,11 +44,6 @@ void ServerFile::deleteValue(const Core::String& key) const
     Core::Configuration configuration = loadFrom(path);
     configuration.deleteValue(key);
     configuration.saveTo(path);
-}
-
-Core::String ServerFile::path() const
-{
-    return Core::IO::FileSystem::combinePath(Core::Process::getCommonAppDataFolder(), m_relativePath);
 }
 
 } // namespace TMgmt

@@ -70,6 +70,12 @@ void Console::insertRow(CSnapInItem& item)
     rows.add(item, record.itemID);
 }
 
+void Console::selectFirstRow()
+{
+    // The index counts where no item is named.
+    results().ModifyItemState(0, 0, LVIS_FOCUSED | LVIS_SELECTED, 0);
+}
+
 void Console::updateRow(CSnapInItem& item)
 {
     if (const HRESULTITEM id = rows().find(item))

@@ -59,9 +59,10 @@ class ResultDataDouble final : public ComDouble<IResultData>
     HRESULT STDMETHODCALLTYPE FindItemByLParam(LPARAM, HRESULTITEM*) override { return uncalled("FindItemByLParam"); }
     HRESULT STDMETHODCALLTYPE SetItem(RESULTDATAITEM*) override { return uncalled("SetItem"); }
     HRESULT STDMETHODCALLTYPE GetItem(RESULTDATAITEM*) override { return uncalled("GetItem"); }
-    HRESULT STDMETHODCALLTYPE ModifyItemState(int, HRESULTITEM, UINT, UINT) override
+    HRESULT STDMETHODCALLTYPE ModifyItemState(int index, HRESULTITEM item, UINT add, UINT remove) override
     {
-        return uncalled("ModifyItemState");
+        states.push_back({index, item, add, remove});
+        return S_OK;
     }
     HRESULT STDMETHODCALLTYPE SetViewMode(long) override { return uncalled("SetViewMode"); }
     HRESULT STDMETHODCALLTYPE GetViewMode(long*) override { return uncalled("GetViewMode"); }
@@ -69,12 +70,22 @@ class ResultDataDouble final : public ComDouble<IResultData>
     HRESULT STDMETHODCALLTYPE SetDescBarText(LPOLESTR) override { return uncalled("SetDescBarText"); }
     HRESULT STDMETHODCALLTYPE SetItemCount(int, DWORD) override { return uncalled("SetItemCount"); }
 
+    struct State
+    {
+        int index;
+        HRESULTITEM item;
+        UINT add;
+        UINT remove;
+        bool operator==(const State&) const = default;
+    };
+
     // Every record as it was given.
     std::vector<RESULTDATAITEM> inserted;
     // What is in the list now, with the ids given.
     std::vector<RESULTDATAITEM> rows;
     std::vector<HRESULTITEM> updated;
     std::vector<std::pair<MMC_RESULT_VIEW_STYLE, MMC_RESULT_VIEW_STYLE>> styles; // added, removed
+    std::vector<State> states;
     int clears = 0;
     std::function<void()> onClear;
     // The cookies of the selected rows, in the list's order.

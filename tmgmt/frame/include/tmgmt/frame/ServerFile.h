@@ -14,6 +14,9 @@ class ServerFile
     // The path below the common application data folder; a constant, it is not copied.
     explicit constexpr ServerFile(const wchar_t* relativePath) noexcept : m_relativePath(relativePath) {}
 
+    // The full path.
+    Core::String path() const;
+
     // An empty store when the file is not there.
     Core::Configuration load() const;
 
@@ -22,8 +25,6 @@ class ServerFile
     void deleteValue(const Core::String& key) const;
 
   private:
-    Core::String path() const;
-
     const wchar_t* m_relativePath;
 };
 

@@ -38,6 +38,8 @@ class Console
     // Clicks on column headers no longer sort.
     void switchSortingOff();
     void insertRow(CSnapInItem& item);
+    // Gives the first row the focus and selects it. Does nothing where there is no row.
+    void selectFirstRow();
     // Has the console ask for the row's texts again. Does nothing in a view that does not show it.
     void updateRow(CSnapInItem& item);
     // Removes every row that was inserted; the window is not redrawn meanwhile.

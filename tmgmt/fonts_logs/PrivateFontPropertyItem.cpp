@@ -1,0 +1,109 @@
+#include "tmgmt/fonts_logs/PrivateFontPropertyItem.h"
+
+#include "tmgmt/fonts_logs/AddPrivateFontDlg.h"
+#include "tmgmt/fonts_logs/PrivateFontsFile.h"
+#include "tmgmt/settings/RestartPreference.h"
+#include "tmgmt/snapin/ItemAccess.h"
+
+namespace TMgmt
+{
+namespace
+{
+
+const wchar_t* yesOrNo(bool value) noexcept
+{
+    return value ? L"Yes" : L"No";
+}
+
+} // namespace
+
+PrivateFontPropertyItem::PrivateFontPropertyItem(const CSnapInItem& parent, PrivateFont font)
+    : Item(ResultNode{.displayName = L"Private Font Item", .image = 4}),
+      m_parent(parent.cookie()),
+      m_font(std::move(font))
+{
+}
+
+const wchar_t* PrivateFontPropertyItem::GetResultPaneColInfo(int column)
+{
+    switch (column)
+    {
+    case 0:
+        return m_font.family.c_str();
+    case 1:
+        return m_font.file.c_str();
+    case 2:
+        return yesOrNo(m_font.isBold);
+    case 3:
+        return yesOrNo(m_font.isItalic);
+    default:
+        return L"";
+    }
+}
+
+HRESULT PrivateFontPropertyItem::Command(long command, Console& console, DATA_OBJECT_TYPES type)
+{
+    return command == ID_EDIT_PRIVATE_FONT ? edit(console) : Item::Command(command, console, type);
+}
+
+HRESULT PrivateFontPropertyItem::OnDblClick(Console& console)
+{
+    return edit(console);
+}
+
+HRESULT PrivateFontPropertyItem::OnSelect(bool, bool isSelected, Console& console)
+{
+    if (!isSelected)
+    {
+        return S_OK;
+    }
+    return console.enableVerb(MMC_VERB_DELETE) ? S_OK : S_FALSE;
+}
+
+HRESULT PrivateFontPropertyItem::OnDelete(Console& console)
+{
+    deletePrivateFont(fontKey(m_font));
+    showChange(console);
+    return S_OK;
+}
+
+HRESULT PrivateFontPropertyItem::OnViewChange(LPARAM, LPARAM, Console& console)
+{
+    console.updateRow(*this);
+    return S_OK;
+}
+
+HRESULT PrivateFontPropertyItem::edit(Console& console)
+{
+    AddPrivateFontDlg dialog;
+    dialog.font = m_font;
+    dialog.restart = readRestartPreference();
+    // Made from what the row shows. A key that another program wrote can differ from it; then the old entry is not
+    // found and stays beside the new one: kept as is.
+    m_storedKey = fontKey(dialog.font);
+    if (dialog.show(GetActiveWindow()) != IDOK)
+    {
+        return S_OK;
+    }
+    // What the file cannot hold is refused while the old entry is still there.
+    checkPrivateFont(dialog.font);
+    deletePrivateFont(m_storedKey);
+    writeRestartPreference(dialog.restart);
+    storePrivateFont(dialog.font);
+    showChange(console);
+    return S_OK;
+}
+
+// After the file was changed: the list anew, and the service where it is to take changes at once.
+void PrivateFontPropertyItem::showChange(Console& console)
+{
+    // The node's own number stands where a handle of the console's belongs, so that nothing is selected: kept as is.
+    console.selectScopeItem(m_parent);
+    console.refreshResultList(*itemOfCookie(m_parent));
+    if (readRestartPreference())
+    {
+        RestartServerService();
+    }
+}
+
+} // namespace TMgmt
