@@ -24,8 +24,8 @@ struct ImportName
 template <ImportName name, class Function>
 class ImportSpy;
 
-// Sees every call that TMgmt.dll makes to one function of Windows, with the arguments as they are during the call, and
-// decides what comes of it:
+// Sees every call that TMgmt.dll (or another module) makes to one function of Windows, with the arguments as they are
+// during the call, and decides what comes of it:
 //
 //     ImportSpy<"ShellExecuteW", decltype(ShellExecuteW)> shell(
 //         [&](HWND owner, LPCWSTR verb, auto... rest)
@@ -42,8 +42,10 @@ class ImportSpy<name, Result(Arguments...)>
   public:
     using Observer = std::function<Result(Arguments...)>;
 
-    // Throws std::runtime_error when the library does not import the function.
-    explicit ImportSpy(Observer observer) : m_observer(std::move(observer)), m_patch(name.text, &called)
+    // module is a library's name, or null for the program itself. Throws std::runtime_error when the module does not
+    // import the function.
+    explicit ImportSpy(Observer observer, const wchar_t* module = L"TMgmt.dll")
+        : m_observer(std::move(observer)), m_patch(name.text, &called, module)
     {
         if (s_current)
         {

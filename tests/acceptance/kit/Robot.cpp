@@ -176,6 +176,12 @@ LRESULT CALLBACK Robot::procedure(HWND window, UINT message, WPARAM wparam, LPAR
         s_robot->use(reinterpret_cast<HWND>(wparam));
         return 0;
     }
+    if (message == WM_TIMER && s_robot)
+    {
+        KillTimer(window, wparam);
+        s_robot->use(reinterpret_cast<HWND>(wparam));
+        return 0;
+    }
     return DefWindowProcW(window, message, wparam, lparam);
 }
 
@@ -211,6 +217,13 @@ void Robot::use(HWND window)
     // It closed by itself, or something else came before it meanwhile.
     if (m_open.empty() || m_open.back() != window)
     {
+        return;
+    }
+    // A dialog of the system's own is shown by its message loop once there are no messages left. Timers come after
+    // that.
+    if (!IsWindowVisible(window))
+    {
+        SetTimer(m_window, reinterpret_cast<UINT_PTR>(window), USER_TIMER_MINIMUM, nullptr);
         return;
     }
     if (m_steps.empty())
