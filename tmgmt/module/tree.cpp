@@ -27,7 +27,7 @@ RootBranches makeBranches()
     return {
         .settings = new SettingsItem(std::move(settings)),
         .about = new AboutKVTessaroItem,
-        .log = new LogItem(report, new LogListItem),
+        .log = new LogItem(report, new LogListItem(report)),
         .hotFolders = new HotFoldersCollectionItem,
         .templates = new TemplatesCollection,
         .users = new UsersCollectionItem,
