@@ -53,11 +53,7 @@ HRESULT PrivateFontPropertyItem::OnDblClick(Console& console)
 
 HRESULT PrivateFontPropertyItem::OnSelect(bool, bool isSelected, Console& console)
 {
-    if (!isSelected)
-    {
-        return S_OK;
-    }
-    return console.enableVerb(MMC_VERB_DELETE) ? S_OK : S_FALSE;
+    return enableVerb(MMC_VERB_DELETE, isSelected, console);
 }
 
 HRESULT PrivateFontPropertyItem::OnDelete(Console& console)

@@ -57,9 +57,9 @@ void Console::insertColumn(int position, const wchar_t* title, int width)
     throwIfFailed(query<IHeaderCtrl>()->InsertColumn(position, title, LVCFMT_LEFT, width));
 }
 
-void Console::switchSortingOff()
+void Console::modifyViewStyle(MMC_RESULT_VIEW_STYLE add, MMC_RESULT_VIEW_STYLE remove)
 {
-    throwIfFailed(results().ModifyViewStyle(MMC_NOSORTHEADER, static_cast<MMC_RESULT_VIEW_STYLE>(0)));
+    throwIfFailed(results().ModifyViewStyle(add, remove));
 }
 
 void Console::insertRow(CSnapInItem& item)

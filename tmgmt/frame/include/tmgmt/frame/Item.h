@@ -135,6 +135,12 @@ class Item : public CSnapInItemImpl<T>
   protected:
     using CSnapInItemImpl<T>::CSnapInItemImpl;
 
+    // For OnSelect: what is selected can be deleted, refreshed and so on.
+    static HRESULT enableVerb(MMC_CONSOLE_VERB verb, bool isSelected, Console& console)
+    {
+        return !isSelected || console.enableVerb(verb) ? S_OK : S_FALSE;
+    }
+
     // Puts the node's own rows into an empty result pane. A node without rows of its own has nothing to do.
     virtual void insertRows(Console&) {}
 

@@ -36,7 +36,9 @@ class Console
     // Appends a left-aligned column at that position; the width is in pixels.
     void insertColumn(int position, const wchar_t* title, int width);
     // Clicks on column headers no longer sort.
-    void switchSortingOff();
+    void switchSortingOff() { modifyViewStyle(MMC_NOSORTHEADER, {}); }
+    // The same, and several rows can be selected, where the node's GetResultViewType asked for it too.
+    void switchSortingOffAndMultiSelectionOn() { modifyViewStyle(MMC_NOSORTHEADER, MMC_SINGLESEL); }
     void insertRow(CSnapInItem& item);
     // Gives the first row the focus and selects it. Does nothing where there is no row.
     void selectFirstRow();
@@ -71,6 +73,7 @@ class Console
     template <class Interface>
     Microsoft::WRL::ComPtr<Interface> query();
     IResultData& results();
+    void modifyViewStyle(MMC_RESULT_VIEW_STYLE add, MMC_RESULT_VIEW_STYLE remove);
     ViewRows& rows();
 
     Microsoft::WRL::ComPtr<IConsole> m_console;

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "brimlow/system/Exception.h"
+
+namespace TMgmt
+{
+
+// What one of the maker's libraries says about hot folders, templates or users that it cannot read or change: in a
+// message box without an owner, titled "Error Occured".
+void reportRefusal(const Core::Exception& exception) noexcept;
+
+} // namespace TMgmt

@@ -1,0 +1,102 @@
+#include "tmgmt/hotfolders/HotFolderItem.h"
+
+#include "brimlow/hotfolder/HotFolderCollection.h"
+#include "tmgmt/frame/reportRefusal.h"
+#include "tmgmt/hotfolders/EditHotFolderDlg.h"
+#include "tmgmt/settings/RestartPreference.h"
+#include "tmgmt/snapin/ItemAccess.h"
+
+namespace TMgmt
+{
+
+HotFolderItem::HotFolderItem(const CSnapInItem& parent, const HotFolders::HotFolder& hotFolder)
+    : Item(ResultNode{.displayName = hotFolder.getDisplayName().c_str(), .image = 8}),
+      m_hotFolder(hotFolder),
+      m_parent(parent.cookie())
+{
+}
+
+const wchar_t* HotFolderItem::GetResultPaneColInfo(int column)
+{
+    switch (column)
+    {
+    case 0:
+        m_name = m_hotFolder.getDisplayName();
+        return m_name.c_str();
+    case 1:
+        return m_hotFolder.getFolder().c_str();
+    case 2:
+        return m_hotFolder.getFileMatchPattern().c_str();
+    case 3:
+        return m_hotFolder.isMonitoringEnabled() ? L"Yes" : L"No";
+    default:
+        return L"";
+    }
+}
+
+HRESULT HotFolderItem::Command(long command, Console& console, DATA_OBJECT_TYPES type)
+{
+    return command == ID_HOT_FOLDER_PROPERTIES ? edit(console) : Item::Command(command, console, type);
+}
+
+// A view of its own, which a row of a list is never asked for in a console.
+HRESULT HotFolderItem::OnShow(bool selecting, HSCOPEITEM, Console& console)
+{
+    if (selecting)
+    {
+        console.insertColumn(0, L"File Name", 275);
+    }
+    return S_OK;
+}
+
+HRESULT HotFolderItem::OnDblClick(Console& console)
+{
+    return edit(console);
+}
+
+HRESULT HotFolderItem::OnSelect(bool, bool isSelected, Console& console)
+{
+    return enableVerb(MMC_VERB_DELETE, isSelected, console);
+}
+
+HRESULT HotFolderItem::OnDelete(Console& console)
+{
+    HotFolders::HotFolderCollection().removeFolder(m_hotFolder);
+    console.refreshResultList(*itemOfCookie(m_parent));
+    return S_OK;
+}
+
+HRESULT HotFolderItem::OnViewChange(LPARAM, LPARAM, Console& console)
+{
+    console.updateRow(*this);
+    return S_OK;
+}
+
+HRESULT HotFolderItem::edit(Console& console)
+{
+    EditHotFolderDlg editor(m_hotFolder, readRestartPreference());
+    if (editor.show(GetActiveWindow()) != IDOK)
+    {
+        return S_OK;
+    }
+    // The row shows what was entered from now on, even when it cannot be stored: kept as is.
+    m_hotFolder = editor.hotFolder;
+    try
+    {
+        HotFolders::HotFolderCollection().updateFolder(m_hotFolder);
+    }
+    catch (const Core::Exception& exception)
+    {
+        reportRefusal(exception);
+        return S_OK;
+    }
+    writeRestartPreference(editor.restart);
+    console.updateAllViews(*this, CCT_RESULT);
+    if (readRestartPreference())
+    {
+        RestartServerService();
+    }
+    return S_OK;
+}
+
+} // namespace TMgmt
