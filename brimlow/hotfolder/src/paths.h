@@ -15,8 +15,8 @@ Core::String lastComponent(const Core::String& path);
 // where that is how paths begin.
 bool isFullPath(const Core::String& path) noexcept;
 
-// A text that two paths have in common exactly when they are taken for the same: neither case nor the kind of the
-// separators counts, nor separators at the end.
+// A text that two paths have in common exactly when they are taken for the same: neither case (as
+// String::toUpper knows it) nor the kind of the separators counts, nor separators at the end.
 Core::String comparisonKey(const Core::String& path);
 
 } // namespace HotFolders

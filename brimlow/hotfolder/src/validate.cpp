@@ -120,10 +120,10 @@ String checkPageIndex(int index)
 bool HotFolder::validate(bool checkFolders, String& message) const
 {
     for (const String& fault :
-         {checkFolder(L"input", m_folder, checkFolders), checkFolder(L"output", m_outputFolder, checkFolders),
-          checkDifferent(*this), checkPattern(m_fileMatchPattern),
-          m_applyFolderXslTemplate ? checkStylesheet(m_folderXslTemplate) : String(), checkPageIndex(m_pageIndex),
-          checkActions(L"success", m_onSuccessActionList), checkActions(L"failure", m_onFailureActionList)})
+         {checkFolder(L"input", getFolder(), checkFolders), checkFolder(L"output", getOutputFolder(), checkFolders),
+          checkDifferent(*this), checkPattern(getFileMatchPattern()),
+          applyFolderXslTemplate() ? checkStylesheet(getFolderXslTemplate()) : String(), checkPageIndex(getPageIndex()),
+          checkActions(L"success", getOnSuccessActionList()), checkActions(L"failure", getOnFailureActionList())})
     {
         if (!fault.empty())
         {

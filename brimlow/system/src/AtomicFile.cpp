@@ -1,7 +1,7 @@
 #include "brimlow/system/AtomicFile.h"
 
 #include "FileOperations.h"
-#include "PathSeparators.h"
+#include "parentFolder.h"
 
 #include <random>
 
@@ -48,28 +48,6 @@ void check(SystemError error, const String& path, const wchar_t* failure)
     if (error)
     {
         throw IOException(L"The file \"" + path + L"\" cannot be saved, " + failure, error);
-    }
-}
-
-void makeFolders(const String& path, FileOperations& operations)
-{
-    String::View folder = path.view();
-    while (!folder.empty() && !isSeparator(folder.back()))
-    {
-        folder.remove_suffix(1);
-    }
-    while (!folder.empty() && isSeparator(folder.back()))
-    {
-        folder.remove_suffix(1);
-    }
-    if (folder.empty() || operations.kind(folder) == FileKind::Folder)
-    {
-        return;
-    }
-    makeFolders(folder, operations);
-    if (const SystemError error = operations.makeFolder(folder))
-    {
-        throw IOException(L"The folder \"" + String(folder) + L"\" cannot be made", error);
     }
 }
 
@@ -153,7 +131,7 @@ void AtomicFile::write(const String& path, std::string_view content, FileOperati
         throw IOException(L"The file \"" + path +
                           L"\" cannot be saved, because it is read-only. Remove its read-only attribute first.");
     case FileKind::None:
-        makeFolders(path, operations);
+        makeParentFolders(path, operations);
         break;
     case FileKind::File:
         break;

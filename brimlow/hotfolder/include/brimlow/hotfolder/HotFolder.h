@@ -4,56 +4,59 @@
 #include "brimlow/system/String.h"
 #include "brimlow/tessaro/OutputFormat.h"
 
+#include <memory>
+
 namespace HotFolders
 {
 
 // A folder that the server watches. Files in it that match the pattern are converted into the output folder; then the
-// actions for success or for failure follow. A value: changes reach the server through HotFolderCollection only.
+// actions for success or for failure follow. A value: changes reach the server through HotFolderCollection only. A
+// reference that it gives is good until it changes.
 class HotFolder
 {
   public:
     // No folders yet, pattern "*.*", PDF, monitored, page index 0, no stylesheet, no actions.
-    HotFolder();
+    HotFolder() noexcept = default;
 
     // The last component of the input folder's path, or the whole path where it has only one.
     Core::String getDisplayName() const;
 
     // The input folder.
-    const Core::String& getFolder() const noexcept { return m_folder; }
-    void setFolder(const Core::String& folder) { m_folder = folder; }
+    const Core::String& getFolder() const noexcept;
+    void setFolder(const Core::String& folder);
 
-    const Core::String& getFileMatchPattern() const noexcept { return m_fileMatchPattern; }
-    void setFileMatchPattern(const Core::String& pattern) { m_fileMatchPattern = pattern; }
+    const Core::String& getFileMatchPattern() const noexcept;
+    void setFileMatchPattern(const Core::String& pattern);
 
-    bool isMonitoringEnabled() const noexcept { return m_monitoringEnabled; }
-    void setEnableMonitoring(bool enable) noexcept { m_monitoringEnabled = enable; }
+    bool isMonitoringEnabled() const noexcept;
+    void setEnableMonitoring(bool enable);
 
-    const Core::String& getOutputFolder() const noexcept { return m_outputFolder; }
-    void setOutputFolder(const Core::String& folder) { m_outputFolder = folder; }
+    const Core::String& getOutputFolder() const noexcept;
+    void setOutputFolder(const Core::String& folder);
 
-    Tessaro::OutputFormat getOutputFormat() const noexcept { return m_outputFormat; }
-    void setOutputFormat(Tessaro::OutputFormat format) noexcept { m_outputFormat = format; }
+    Tessaro::OutputFormat getOutputFormat() const noexcept;
+    void setOutputFormat(Tessaro::OutputFormat format);
 
     // Which page becomes the picture when the output format is one of the picture formats; the first is 0.
-    int getPageIndex() const noexcept { return m_pageIndex; }
-    void setPageIndex(int index) noexcept { m_pageIndex = index; }
+    int getPageIndex() const noexcept;
+    void setPageIndex(int index);
 
-    bool applyFolderXslTemplate() const noexcept { return m_applyFolderXslTemplate; }
-    void setApplyFolderXslTemplate(bool apply) noexcept { m_applyFolderXslTemplate = apply; }
+    bool applyFolderXslTemplate() const noexcept;
+    void setApplyFolderXslTemplate(bool apply);
 
     // The stylesheet file; it counts only while applyFolderXslTemplate().
-    const Core::String& getFolderXslTemplate() const noexcept { return m_folderXslTemplate; }
-    void setFolderXslTemplate(const Core::String& file) { m_folderXslTemplate = file; }
+    const Core::String& getFolderXslTemplate() const noexcept;
+    void setFolderXslTemplate(const Core::String& file);
 
     // What relative references in the files are resolved against.
-    const Core::String& getBaseUrl() const noexcept { return m_baseUrl; }
-    void setBaseUrl(const Core::String& url) { m_baseUrl = url; }
+    const Core::String& getBaseUrl() const noexcept;
+    void setBaseUrl(const Core::String& url);
 
-    const ActionList& getOnSuccessActionList() const noexcept { return m_onSuccessActionList; }
-    void setOnSuccessActionList(const ActionList& actions) { m_onSuccessActionList = actions; }
+    const ActionList& getOnSuccessActionList() const noexcept;
+    void setOnSuccessActionList(const ActionList& actions);
 
-    const ActionList& getOnFailureActionList() const noexcept { return m_onFailureActionList; }
-    void setOnFailureActionList(const ActionList& actions) { m_onFailureActionList = actions; }
+    const ActionList& getOnFailureActionList() const noexcept;
+    void setOnFailureActionList(const ActionList& actions);
 
     // Returns true when the server can work with the hot folder. Otherwise returns false and sets message to one
     // sentence about the first thing that is wrong; message is left alone when nothing is. The rules, in this order:
@@ -67,21 +70,15 @@ class HotFolder
 
   private:
     friend class HotFolderTable;
+    struct Fields;
 
-    // Which stored hot folder this is a copy of: a GUID, empty before it is stored.
-    Core::String m_identity;
+    const Fields& fields() const noexcept;
+    // The fields, for a change that other copies do not see.
+    Fields& change();
 
-    Core::String m_folder;
-    Core::String m_fileMatchPattern;
-    bool m_monitoringEnabled = true;
-    Core::String m_outputFolder;
-    Tessaro::OutputFormat m_outputFormat = Tessaro::OutputFormat::Pdf;
-    int m_pageIndex = 0;
-    bool m_applyFolderXslTemplate = false;
-    Core::String m_folderXslTemplate;
-    Core::String m_baseUrl;
-    ActionList m_onSuccessActionList;
-    ActionList m_onFailureActionList;
+    // Copies share the fields until one of them changes: a list of hot folders is copied often and seldom changed.
+    // None while they are the default ones.
+    std::shared_ptr<Fields> m_fields;
 };
 
 } // namespace HotFolders

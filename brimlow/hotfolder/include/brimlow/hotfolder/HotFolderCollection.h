@@ -3,11 +3,10 @@
 #include "brimlow/hotfolder/HotFolder.h"
 
 #include <memory>
+#include <vector>
 
 namespace HotFolders
 {
-
-class HotFolderList;
 
 // The hot folders of this machine, as they were stored when the collection was constructed or last changed anything,
 // in the order in which they were added. They are kept in the database "Brimlow\Data\HotFolders.db" in the common
@@ -27,8 +26,8 @@ class HotFolderCollection
     // Core::UnreacheableCodeException.
     const HotFolder& getAt(int index) const;
 
-    // Stores a new hot folder, behind all others. Throws Core::FormatException, with the sentence of
-    // HotFolder::validate, for one that is not valid (whether its folders exist is not asked here), and for one that
+    // Stores a new hot folder, behind all others. Throws Core::Exception with the sentence of
+    // HotFolder::validate for one that is not valid (whether its folders exist is not asked here), and for one that
     // watches the same input folder with the same pattern as another: the server would convert each file twice.
     void addNewFolder(const HotFolder& folder);
 
@@ -41,7 +40,7 @@ class HotFolderCollection
     void removeFolder(const HotFolder& folder);
 
   private:
-    std::shared_ptr<const HotFolderList> m_folders;
+    std::shared_ptr<const std::vector<HotFolder>> m_folders;
 };
 
 } // namespace HotFolders
