@@ -42,7 +42,7 @@ void HotFolderTable::create(Connection& connection, int)
 
 const Database::Schema HotFolderTable::schema{1, &HotFolderTable::create};
 
-std::vector<HotFolder> HotFolderTable::load(Connection& connection)
+std::vector<HotFolder> HotFolderTable::load(const Connection& connection)
 {
     std::vector<HotFolder> folders;
     ActionTable::Reader actions(connection);

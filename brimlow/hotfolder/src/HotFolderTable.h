@@ -16,7 +16,7 @@ class HotFolderTable
     static const Database::Schema schema;
 
     // All hot folders, in the order in which they were added.
-    static std::vector<HotFolder> load(Database::Connection& connection);
+    static std::vector<HotFolder> load(const Database::Connection& connection);
 
     // Returns the hot folder as it is stored now. Throws Core::Exception when another watches the same files.
     static HotFolder add(Database::Connection& connection, const HotFolder& folder);

@@ -2,6 +2,7 @@
 #include "CommonAppData.h"
 #include "PrintTo.h"
 #include "brimlow/system/Exception.h"
+#include "refusal.h"
 
 #include <gtest/gtest.h>
 
@@ -31,20 +32,6 @@ std::vector<std::string> paths(const HotFolderCollection& folders)
         paths.push_back(folders.getAt(index).getFolder().toUtf8());
     }
     return paths;
-}
-
-template <class Operation>
-Core::String refusal(Operation operation)
-{
-    try
-    {
-        operation();
-    }
-    catch (const Core::Exception& exception)
-    {
-        return exception.getMessage();
-    }
-    return L"accepted";
 }
 
 using Paths = std::vector<std::string>;

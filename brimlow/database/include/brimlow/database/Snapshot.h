@@ -18,7 +18,7 @@ class Snapshot
 {
   public:
     using Pointer = std::shared_ptr<const Content>;
-    using Load = Content (*)(Connection& connection);
+    using Load = Content (*)(const Connection& connection);
 
     explicit Snapshot(Load load) : m_load(load) {}
 
@@ -62,7 +62,7 @@ class Snapshot
 
   private:
     // Reads the content anew unless it is that of the database.
-    void update(Connection& connection)
+    void update(const Connection& connection)
     {
         const std::optional<RandomId> mark = readContentMark(connection);
         if (!mark || mark != m_mark)
