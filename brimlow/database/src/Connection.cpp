@@ -51,7 +51,7 @@ bool Connection::open(const DatabaseFile& file)
     m_database.reset(database);
     if (result != SQLITE_OK)
     {
-        if (result == SQLITE_CANTOPEN && isNotFound(sqlite3_system_errno(database)))
+        if (isNotFound(database))
         {
             return false;
         }

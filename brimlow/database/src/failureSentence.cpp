@@ -19,6 +19,11 @@ namespace
 
 Core::String systemReason(sqlite3* database)
 {
+    // SQLite looks for this case itself on Windows, and leaves the system's error code alone.
+    if (sqlite3_extended_errcode(database) == SQLITE_CANTOPEN_ISDIR)
+    {
+        return L"it is a folder";
+    }
     return Core::describeSystemError(static_cast<Core::SystemError>(sqlite3_system_errno(database)));
 }
 
@@ -54,8 +59,13 @@ Core::String failureSentence(const Core::String& path, sqlite3* database, int re
     }
 }
 
-bool isNotFound(int systemError) noexcept
+bool isNotFound(sqlite3* database) noexcept
 {
+    if (sqlite3_extended_errcode(database) != SQLITE_CANTOPEN)
+    {
+        return false;
+    }
+    const int systemError = sqlite3_system_errno(database);
 #ifdef _WIN32
     return systemError == ERROR_FILE_NOT_FOUND || systemError == ERROR_PATH_NOT_FOUND;
 #else

@@ -11,7 +11,7 @@ namespace Database
 // about it.
 Core::String failureSentence(const Core::String& path, sqlite3* database, int result);
 
-// Whether the error code of the system says that there is no such file or folder.
-bool isNotFound(int systemError) noexcept;
+// Whether the database could not be opened because there is no such file or folder.
+bool isNotFound(sqlite3* database) noexcept;
 
 } // namespace Database

@@ -99,8 +99,8 @@ class HotFolderStoreTest : public testing::Test
             add(L"C:\\c");
             fs::copy_file(m_disk.folder() / "HotFolders.db", m_disk.folder() / "original");
         }
-        fs::copy_file(m_disk.folder() / "original", m_disk.folder() / "HotFolders.db",
-                      fs::copy_options::overwrite_existing);
+        fs::remove(m_disk.folder() / "HotFolders.db");
+        fs::copy_file(m_disk.folder() / "original", m_disk.folder() / "HotFolders.db");
         m_store.get(m_file);
     }
 
