@@ -43,16 +43,18 @@ def run(bench, subject, size, repetitions, fixtures):
 
 
 def main(folder, result, quick):
-    fixtures = Fixtures(os.environ['WINEPREFIX'])
     library = os.path.getsize(os.path.join(folder, 'TMgmt.dll'))
     figures = [Figure('TMgmt.dll: size', 0, 'bytes', [library], [])]
-    for subject, sizes in SUBJECTS.items():
-        for size in sizes:
-            if not quick or size <= QUICK_LARGEST:
-                print(f'  {subject} {size or ""}', file=sys.stderr)
-                figures += run(os.path.join(folder, 'Bench.exe'), subject, size,
-                               QUICK_REPETITIONS if quick else REPETITIONS, fixtures)
-    fixtures.remove()
+    fixtures = Fixtures(os.environ['WINEPREFIX'])
+    try:
+        for subject, sizes in SUBJECTS.items():
+            for size in sizes:
+                if not quick or size <= QUICK_LARGEST:
+                    print(f'  {subject} {size or ""}', file=sys.stderr)
+                    figures += run(os.path.join(folder, 'Bench.exe'), subject, size,
+                                   QUICK_REPETITIONS if quick else REPETITIONS, fixtures)
+    finally:
+        fixtures.remove()
     text = '\n'.join(table(figures))
     print(text)
     with open(result, 'w', encoding='utf-8') as file:

@@ -1,11 +1,35 @@
 #include "floor/FloorComponent.h"
 
 #include "floor/FloorObject.h"
+#include "platform/handles.h"
 
 #include <commctrl.h>
 
 namespace Bench
 {
+namespace
+{
+
+constexpr int pictures = 24; // as many as the plug-in has
+
+HRESULT addPictures(IImageList& images)
+{
+    const platform::Bitmap small(CreateBitmap(16 * pictures, 16, 1, 32, nullptr));
+    const platform::Bitmap large(CreateBitmap(32 * pictures, 32, 1, 32, nullptr));
+    return images.ImageListSetStrip(reinterpret_cast<LONG_PTR*>(small.get()), reinterpret_cast<LONG_PTR*>(large.get()),
+                                    0, CLR_NONE);
+}
+
+// The buttons for the server's service show its state after every selection.
+void askForService()
+{
+    const platform::ServiceHandle manager(OpenSCManagerW(nullptr, nullptr, SC_MANAGER_CONNECT));
+    const platform::ServiceHandle service(OpenServiceW(manager.get(), L"KV Tessaro", SERVICE_QUERY_STATUS));
+    SERVICE_STATUS status{};
+    QueryServiceStatus(service.get(), &status);
+}
+
+} // namespace
 
 HRESULT FloorComponent::Initialize(LPCONSOLE console)
 {
@@ -26,7 +50,10 @@ HRESULT FloorComponent::Notify(LPDATAOBJECT object, MMC_NOTIFY_TYPE event, LPARA
             return S_OK;
         }
         return show(*static_cast<FloorObject*>(object)->node());
+    case MMCN_ADD_IMAGES:
+        return addPictures(*reinterpret_cast<IImageList*>(arg));
     case MMCN_SELECT:
+        askForService();
         return LOWORD(arg) != 0 && HIWORD(arg) != 0 ? enableRefresh() : S_OK;
     case MMCN_REFRESH:
     {

@@ -8,7 +8,8 @@ namespace Bench
 {
 
 // One node of the floor's tree. The floor is a snap-in that does nothing but what no snap-in can leave out: it reads
-// the data and hands the rows to the console, which asks for their texts.
+// the data and hands the rows to the console, which asks for their texts; it has pictures, and looks at the server's
+// service after every selection.
 struct FloorNode
 {
     std::wstring name;

@@ -87,9 +87,6 @@ void privateFonts(std::size_t size, std::size_t repetitions)
     compare("Private Fonts: read every text", size, repetitions,
             {.act = [&] { plugIn.readTexts(); }, .before = show(plugIn), .after = expect(size)},
             {.act = [&] { lowest.readTexts(); }, .before = show(lowest), .after = expect(size)});
-    compare("Private Fonts: refresh", size, repetitions,
-            {.act = [&] { plugIn.refresh(); }, .before = show(plugIn), .after = expect(size)},
-            {.act = [&] { lowest.refresh(); }, .before = show(lowest), .after = expect(size)});
 
     std::optional<DialogAnswer> answer;
     const auto showAndAwait = [&](List& list)
