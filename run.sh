@@ -19,6 +19,10 @@ if [ ! -e "$data" ]; then
   echo 'Putting in sample data'
   cp -r tools/sample-data/Brimlow "$data"
 fi
+if [ ! -e "$data/Data/HotFolders.db" ]; then
+  echo 'Putting in sample hot folders'
+  wine out/windows-x64/SampleData.exe
+fi
 
 echo 'Registering the plug-in, starting the stand-in service'
 wine regsvr32 /s "$(windows_path out/windows-x64/TMgmt.dll)"

@@ -1,0 +1,140 @@
+// SampleData: three hot folders to look at, with their folders. Adds nothing where there are hot folders already.
+// SampleData N: N hot folders to measure with, in one transaction. Their folders are not made.
+
+#include "HotFolderStore.h"
+#include "HotFolderTable.h"
+
+#include "brimlow/database/Transaction.h"
+#include "brimlow/hotfolder/HotFolderCollection.h"
+#include "brimlow/system/Exception.h"
+#include "brimlow/system/FileSystem.h"
+#include "brimlow/system/Format.h"
+
+#include <cstdio>
+#include <exception>
+#include <filesystem>
+#include <string>
+
+namespace
+{
+
+using HotFolders::Action;
+using HotFolders::ActionList;
+using HotFolders::ActionType;
+using HotFolders::HotFolder;
+using Tessaro::OutputFormat;
+
+HotFolder hotFolder(const Core::String& folder, const wchar_t* pattern, OutputFormat format)
+{
+    HotFolder result;
+    result.setFolder(folder + L"\\In");
+    result.setOutputFolder(folder + L"\\Out");
+    result.setFileMatchPattern(pattern);
+    result.setOutputFormat(format);
+    return result;
+}
+
+Action moveTo(const Core::String& folder)
+{
+    Action action;
+    action.setType(ActionType::MoveInputFile);
+    action.setDestinationPath(folder);
+    return action;
+}
+
+Action call(const wchar_t* url)
+{
+    Action action;
+    action.setType(ActionType::CallWebService);
+    action.setHttpUrl(url);
+    return action;
+}
+
+Action deleteInput()
+{
+    Action action;
+    action.setType(ActionType::DeleteInputFile);
+    return action;
+}
+
+void add(const HotFolder& folder)
+{
+    for (const Core::String& path : {folder.getFolder(), folder.getOutputFolder()})
+    {
+        std::filesystem::create_directories(path.str());
+    }
+    HotFolders::HotFolderCollection().addNewFolder(folder);
+}
+
+void addThree()
+{
+    if (HotFolders::HotFolderCollection().getCount() > 0)
+    {
+        return;
+    }
+    HotFolder invoices = hotFolder(L"C:\\HotFolders\\Invoices", L"*.xml", OutputFormat::Pdf);
+    invoices.setOnSuccessActionList({call(L"http://localhost:8080/archive?file={OutputFile}"), deleteInput()});
+    invoices.setOnFailureActionList({moveTo(L"C:\\HotFolders\\Invoices\\Failed")});
+    add(invoices);
+
+    HotFolder labels = hotFolder(L"C:\\HotFolders\\Labels", L"*.fo", OutputFormat::Png);
+    labels.setPageIndex(1);
+    labels.setOnSuccessActionList({moveTo(L"C:\\HotFolders\\Labels\\Done")});
+    add(labels);
+
+    HotFolder statements = hotFolder(L"C:\\HotFolders\\Statements", L"*.*", OutputFormat::Afp);
+    statements.setEnableMonitoring(false);
+    add(statements);
+}
+
+void addMany(int count)
+{
+    using HotFolders::HotFolderStore;
+    Database::Connection connection = Database::Connection::openOrCreate(HotFolderStore::machineDatabase());
+    Database::Transaction transaction(connection, Database::Transaction::Kind::write);
+    for (int number = 0; number < count; ++number)
+    {
+        HotFolder folder =
+            hotFolder(L"C:\\HotFolders\\Folder " + Core::String(std::to_wstring(number)), L"*.xml", OutputFormat::Pdf);
+        folder.setOnSuccessActionList({moveTo(L"C:\\HotFolders\\Done"), call(L"http://localhost:8080/archive")});
+        HotFolders::HotFolderTable::add(connection, folder);
+    }
+    transaction.commit();
+}
+
+int fail(const char* message)
+{
+    std::fprintf(stderr, "%s\n", message);
+    return 1;
+}
+
+} // namespace
+
+#ifdef _WIN32
+int wmain(int argumentCount, wchar_t** arguments)
+#else
+int main(int argumentCount, char** arguments)
+#endif
+{
+    try
+    {
+        int count = 0;
+        if (argumentCount == 1)
+        {
+            addThree();
+        }
+        else if (argumentCount == 2 && Core::Format::parseInt(std::filesystem::path(arguments[1]).wstring(), count))
+        {
+            addMany(count);
+        }
+        else
+        {
+            return fail("SampleData [NUMBER OF HOT FOLDERS]");
+        }
+        return 0;
+    }
+    catch (const std::exception& exception)
+    {
+        return fail(exception.what());
+    }
+}
