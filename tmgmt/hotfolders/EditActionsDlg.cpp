@@ -121,10 +121,10 @@ void EditActionsDlg::insertRow(int row)
     const HWND list = item(IDC_ACTIONS_LIST);
     const std::wstring text = actions[static_cast<std::size_t>(row)].getDescription().str();
     SendMessageW(list, LB_INSERTSTRING, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text.c_str()));
-    // A list box does not look itself how far it has to scroll sideways.
-    const int width =
-        std::max(textWidth(list, text), static_cast<int>(SendMessageW(list, LB_GETHORIZONTALEXTENT, 0, 0)));
-    SendMessageW(list, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(width), 0);
+    // A list box does not look itself how far it has to scroll sideways. Its rows begin and end within its frame.
+    const int width = textWidth(list, text) + 2 * GetSystemMetrics(SM_CXEDGE);
+    const int former = static_cast<int>(SendMessageW(list, LB_GETHORIZONTALEXTENT, 0, 0));
+    SendMessageW(list, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(std::max(width, former)), 0);
 }
 
 void EditActionsDlg::deleteRow(int row) noexcept

@@ -79,6 +79,22 @@ void ModalWindow::setChecked(int id, bool wanted)
     EXPECT_EQ(wanted, checked(id)) << "control " << id;
 }
 
+void ModalWindow::click(int button)
+{
+    SendMessageW(usable(button), BM_CLICK, 0, 0);
+}
+
+void ModalWindow::choose(int list, int index)
+{
+    const HWND entries = usable(list);
+    SetFocus(entries);
+    SendMessageW(entries, WM_KEYDOWN, VK_HOME, 1);
+    for (int i = 0; i < index; ++i)
+    {
+        SendMessageW(entries, WM_KEYDOWN, VK_DOWN, 1);
+    }
+}
+
 void ModalWindow::press(int button)
 {
     post(usable(button), BM_CLICK, 0, 0);

@@ -34,6 +34,10 @@ class ModalWindow
     void type(int id, const std::wstring& text);
     // Clicks a check box or a radio button unless it is in that state already.
     void setChecked(int id, bool checked);
+    // Presses a button that leaves this window in front: what it does is done when this returns.
+    void click(int button);
+    // Goes through the entries of a list with the keyboard, up to the one with that index.
+    void choose(int list, int index);
 
     // Both are queued: they happen after the robot's action has returned. What they open or close comes as the
     // script's next step. An action has to end with one of them.

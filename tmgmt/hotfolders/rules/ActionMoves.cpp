@@ -1,20 +1,21 @@
 #include "tmgmt/hotfolders/rules/ActionMoves.h"
 
-#include <utility>
+#include <algorithm>
 
 namespace TMgmt
 {
 namespace
 {
 
-std::optional<int> swapWith(HotFolders::ActionList& actions, int selected, int other) noexcept
+std::optional<int> moveBy(int distance, HotFolders::ActionList& actions, int selected) noexcept
 {
-    if (!hasAction(actions, selected) || !hasAction(actions, other))
+    if (!hasAction(actions, selected) || !hasAction(actions, selected + distance))
     {
         return std::nullopt;
     }
-    std::swap(actions[static_cast<std::size_t>(selected)], actions[static_cast<std::size_t>(other)]);
-    return other;
+    const auto action = actions.begin() + selected;
+    std::iter_swap(action, action + distance);
+    return selected + distance;
 }
 
 } // namespace
@@ -26,12 +27,12 @@ bool hasAction(const HotFolders::ActionList& actions, int selected) noexcept
 
 std::optional<int> moveUp(HotFolders::ActionList& actions, int selected) noexcept
 {
-    return swapWith(actions, selected, selected - 1);
+    return moveBy(-1, actions, selected);
 }
 
 std::optional<int> moveDown(HotFolders::ActionList& actions, int selected) noexcept
 {
-    return swapWith(actions, selected, selected + 1);
+    return moveBy(1, actions, selected);
 }
 
 } // namespace TMgmt

@@ -1,4 +1,4 @@
-#include "kit/SystemDialogs.h"
+#include "kit/FolderDialog.h"
 
 #include "platform/handles.h"
 

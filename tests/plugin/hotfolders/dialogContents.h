@@ -1,0 +1,17 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+namespace Acceptance
+{
+
+// The controls of a dialog in their order, each as "id class text".
+std::vector<std::wstring> contentsOf(HWND dialog);
+
+// The ids of the controls that the tabulator key goes through, from the first on.
+std::vector<int> tabOrderOf(HWND dialog);
+
+} // namespace Acceptance
