@@ -14,11 +14,11 @@ HotFoldersCollectionItem::HotFoldersCollectionItem()
 
 HRESULT HotFoldersCollectionItem::GetResultViewType(LPOLESTR* viewType, LONG* options)
 {
-    // A console lets several rows be selected only in a list that asks for it before it is made; the view style alone
-    // does not.
-    const HRESULT result = Collection::GetResultViewType(viewType, options);
+    // A console lets several rows be selected only in a list that asks for it before it is made: the view style alone
+    // is not enough, and S_FALSE means a list without options.
+    *viewType = nullptr;
     *options = MMC_VIEW_OPTIONS_MULTISELECT;
-    return result;
+    return S_OK;
 }
 
 HRESULT HotFoldersCollectionItem::Command(long command, Console& console, DATA_OBJECT_TYPES type)
