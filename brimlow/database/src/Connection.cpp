@@ -9,7 +9,6 @@
 
 #include "failureSentence.h"
 
-#include <new>
 #include <sqlite3.h>
 
 namespace Database
@@ -117,10 +116,6 @@ void Connection::execute(const char* sql)
 
 void Connection::fail(int result) const
 {
-    if (result == SQLITE_NOMEM)
-    {
-        throw std::bad_alloc();
-    }
     throw DatabaseException(failureSentence(m_path, get(), result));
 }
 

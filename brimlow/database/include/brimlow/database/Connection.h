@@ -14,7 +14,10 @@ namespace Database
 // millisecond, and between two operations the file can be replaced, restored or removed, and the module unloaded.
 //
 // Changes are safe against crashes (rollback journal, written through to the disk). A text is kept unit by unit as it
-// is, unpaired surrogates and zeros included. What is throws is DatabaseException, or std::bad_alloc.
+// is, unpaired surrogates and zeros included.
+//
+// Everything throws DatabaseException; also where SQLite reports a lack of memory, since a damaged file can be the
+// cause of that too.
 class Connection
 {
   public:
