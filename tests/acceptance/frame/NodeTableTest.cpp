@@ -148,6 +148,17 @@ TEST_F(RootNode, answersForItsImages)
 
 class ResultRows : public ConsoleTest, public testing::WithParamInterface<ResultRow>
 {
+  protected:
+    // Rows for the nodes that have none of their own.
+    void SetUp() override
+    {
+        ConsoleTest::SetUp();
+        ServerFiles::write(ServerFiles::folder() / L"Common" / L"Config" / L"Fonts.config",
+                           ServerFiles::configurationWith("    <add key=\"MapFont:A\" value=\"a.ttf\"/>\r\n"
+                                                          "    <add key=\"MapFont:B\" value=\"b.ttf\"/>\r\n"));
+        ServerFiles::write(ServerFiles::folder() / L"Log" / L"one.log", "");
+        ServerFiles::write(ServerFiles::folder() / L"Log" / L"two.log", "");
+    }
 };
 
 TEST_P(ResultRows, areInsertedAsTheTableHasThem)
@@ -179,7 +190,11 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(ResultRow{L"About KV Tessaro", 4, L"Property Item", L"{FCD66532-7182-476C-8D0B-A8AC16FA9FE2}", 2},
                     ResultRow{L"Engine Settings\\Listener Configuration", 3, L"Property Item", settingRow, 2},
                     ResultRow{L"Engine Settings\\AFP Encoder", 4, L"Property Item", settingRow, 2},
-                    ResultRow{L"Log", 3, L"Property Item", settingRow, 2}));
+                    ResultRow{L"Engine Settings\\Private Fonts", 2, L"Private Font Item",
+                              L"{10158B7C-D952-49E4-8ACA-CD3C47E3A37D}", 4},
+                    ResultRow{L"Log", 3, L"Property Item", settingRow, 2},
+                    ResultRow{L"Log\\Log Files", 2, L"Log Property Item", L"{0C63EBA1-9EF4-432B-AC5D-945439EA7937}",
+                              16}));
 
 } // namespace
 } // namespace Acceptance
