@@ -29,6 +29,7 @@ echo "Taking pictures into $target"
 rm -f "$target"/*.png
 listener='Engine Settings\Listener Configuration'
 encoder='Engine Settings\AFP Encoder'
+fonts='Engine Settings\Private Fonts'
 picture root
 picture about --select 'About KV Tessaro'
 picture hot-folders --select 'Hot Folders'
@@ -38,12 +39,13 @@ picture server-certificates --select 'Server Certificates'
 picture engine-settings --select 'Engine Settings'
 picture listener-configuration --select "$listener"
 picture afp-encoder --select "$encoder"
-picture private-fonts --select 'Engine Settings\Private Fonts'
+picture private-fonts --select "$fonts"
 picture log --select 'Log'
 picture log-files --select 'Log\Log Files'
 picture dialog-edit-property --select "$listener" --row Port --command 1000
 picture dialog-edit-bool-property --select "$encoder" --row 'Convert to Grayscale' --command 1000
 picture dialog-edit-enum-property --select "$encoder" --row 'Fonts Used' --command 1000
 picture dialog-edit-enum-property-three --select "$encoder" --row 'Grayscale Method' --command 1000
+picture dialog-edit-private-font --select "$fonts" --row ARIAL --command 1044
 picture dialog-edit-log-level --select 'Log' --row 'Log Level' --command 1000
 [ -z "$own_display" ] || stop_wine

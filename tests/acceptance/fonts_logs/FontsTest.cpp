@@ -4,9 +4,6 @@
 
 #include <brimlow/system/Configuration.h>
 
-#include <array>
-#include <cwchar>
-
 namespace Acceptance
 {
 namespace
@@ -105,16 +102,6 @@ void FontsTest::fileReport(std::source_location where)
             EXPECT_GT(box.text.size(), file().wstring().size() + 10) << narrow(box.text);
         },
         where);
-}
-
-void FontsTest::serviceError(const std::wstring& context, DWORD error, std::source_location where)
-{
-    std::array<wchar_t, 16> code{};
-    std::swprintf(code.data(), code.size(), L"0x%08lX", error);
-    robot.message({.text = context + L": " + systemText(error) + L" (" + code.data() + L").",
-                   .caption = productCaption,
-                   .icon = MB_ICONERROR},
-                  where);
 }
 
 void FontsTest::add(const FontEntry& font, std::source_location where)

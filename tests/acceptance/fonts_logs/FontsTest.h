@@ -63,9 +63,6 @@ class FontsTest : public ConsoleTest
     void refusal(const std::wstring& text, std::source_location where = std::source_location::current());
     // A box that belongs to no window, names the file of fonts and says more than its name.
     void fileReport(std::source_location where = std::source_location::current());
-    // The box of a service operation that failed.
-    void serviceError(const std::wstring& context, DWORD error,
-                      std::source_location where = std::source_location::current());
 
     // The whole of it: the command, the editor filled in, OK.
     void add(const FontEntry& font, std::source_location where = std::source_location::current());
