@@ -333,8 +333,15 @@ TEST_F(ConsoleTest, selectionsOutsideAnyNotificationHappenAtOnce)
 {
     EXPECT_EQ(component<IConsole>()->SelectScopeItem(static_cast<HSCOPEITEM>(child(2))), S_OK);
     EXPECT_EQ(view->selectedNode(), child(2));
-    EXPECT_EQ(component<IConsole>()->SelectScopeItem(0x1234), E_FAIL);
-    EXPECT_EQ(view->selectedNode(), child(2));
+    const auto children = tree().children(root());
+    // A pointer of the snap-in's own is no handle either, and is not followed.
+    for (const HSCOPEITEM none :
+         {HSCOPEITEM{0}, HSCOPEITEM{0x1234}, HSCOPEITEM{-1}, reinterpret_cast<HSCOPEITEM>(this)})
+    {
+        EXPECT_EQ(component<IConsole>()->SelectScopeItem(none), E_FAIL) << none;
+        EXPECT_EQ(view->selectedNode(), child(2));
+        EXPECT_EQ(tree().children(root()), children);
+    }
 }
 
 TEST_F(ConsoleTest, dyingHandlesOfOtherSnapInsAreRefused)
