@@ -34,11 +34,7 @@ HRESULT LogListPropertyItem::OnDblClick(Console&)
 
 HRESULT LogListPropertyItem::OnSelect(bool, bool isSelected, Console& console)
 {
-    if (!isSelected)
-    {
-        return S_OK;
-    }
-    return console.enableVerb(MMC_VERB_DELETE) ? S_OK : S_FALSE;
+    return enableVerb(MMC_VERB_DELETE, isSelected, console);
 }
 
 HRESULT LogListPropertyItem::OnDelete(Console& console)
