@@ -117,6 +117,25 @@ TEST_F(EditHotFolderActionDlgTest, showsTheKindAndTheFieldOfThatKindOnly)
     }
 }
 
+// On Windows a radio button takes the focus, as it does when the dialog opens or comes back, like a click on it unless
+// told not to. Wine's does not.
+TEST_F(EditHotFolderActionDlgTest, tellsItsRadioButtonsNotToTakeTheFocusAsAClick)
+{
+    Ids told;
+    Acceptance::ImportSpy<"SendMessageW", decltype(SendMessageW)> spy(
+        [&](HWND window, UINT message, WPARAM wparam, LPARAM lparam) -> LRESULT
+        {
+            if (message == BM_SETDONTCLICK && wparam == TRUE)
+            {
+                told.push_back(GetDlgCtrlID(window));
+            }
+            return spy.callThrough(window, message, wparam, lparam);
+        },
+        nullptr);
+    after(actionOf(4), IDCANCEL, [](ModalWindow& window) { EXPECT_EQ(window.focus(), deleteFile); });
+    EXPECT_EQ(told, (Ids{deleteFile, moveFile, callService}));
+}
+
 TEST_F(EditHotFolderActionDlgTest, leavesAllControlsUsableWhateverIsChosen)
 {
     after(Action(), IDCANCEL,
