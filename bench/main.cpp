@@ -13,6 +13,8 @@ namespace
 
 const std::map<std::wstring, Bench::Subject> subjects{
     {L"loading", Bench::loading},
+    {L"loading-hot-folders", Bench::loadingHotFolders},
+    {L"hot-folders", Bench::hotFolders},
     {L"log-files", Bench::logFiles},
     {L"private-fonts", Bench::privateFonts},
 };

@@ -62,6 +62,10 @@ HRESULT FloorComponent::Notify(LPDATAOBJECT object, MMC_NOTIFY_TYPE event, LPARA
         {
             node.change();
         }
+        if (!node.listsAnew)
+        {
+            return S_OK;
+        }
         m_rows->DeleteAllRsltItems();
         return list(node);
     }

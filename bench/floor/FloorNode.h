@@ -20,6 +20,8 @@ struct FloorNode
     std::function<std::vector<std::wstring>()> read{};
     // What the command Refresh does before it lists the node anew, if anything.
     std::function<void()> change{};
+    // Whether it lists the node anew at all.
+    bool listsAnew = true;
 };
 
 } // namespace Bench

@@ -1,5 +1,6 @@
 #include "floor/floorDialog.h"
 
+#include "platform/VisualStyles.h"
 #include "resources.h"
 
 #include <windows.h>
@@ -22,6 +23,8 @@ INT_PTR CALLBACK procedure(HWND dialog, UINT message, WPARAM wparam, LPARAM) noe
 
 void showFloorDialog()
 {
+    static const platform::VisualStyles styles(GetModuleHandleW(nullptr));
+    const platform::VisualStyles::Scope scope(styles);
     DialogBoxParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDD_FLOOR), GetActiveWindow(), procedure, 0);
 }
 

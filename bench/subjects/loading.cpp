@@ -3,6 +3,8 @@
 #include "Stage.h"
 #include "console/host/Registration.h"
 #include "floor/FloorObject.h"
+#include "hotFolderFixture.h"
+#include "logFolder.h"
 #include "subjects/subjects.h"
 
 #include <wrl/client.h>
@@ -48,9 +50,32 @@ void mapLibrary(const std::wstring& library)
     FreeLibrary(module);
 }
 
+// read: what has to be read while it is loaded.
+void compareLoading(const char* what, std::size_t size, std::size_t repetitions, const std::function<void()>& read)
+{
+    const FloorNode floor{.name = L"KV Tessaro 2010",
+                          .children = {{.name = L"Engine Settings", .children = {{.name = L"Settings"}}},
+                                       {.name = L"Hot Folders"},
+                                       {.name = L"Server Templates"},
+                                       {.name = L"Users"},
+                                       {.name = L"Server Certificates"},
+                                       {.name = L"Log", .children = {{.name = L"Log Files"}}},
+                                       {.name = L"About KV Tessaro"}}};
+    const FloorRegistration registration(floor);
+    const Factory kept = plugInLibrary();
+    kept->LockServer(TRUE);
+    compare(what, size, repetitions, {.act = [] { loadAndTakeDown(plugInClass); }},
+            {.act = [&]
+             {
+                 read();
+                 loadAndTakeDown(floorClass);
+             }});
+    kept->LockServer(FALSE);
+}
+
 } // namespace
 
-// Empty files and databases, then (size) that many log files.
+// No file of the server's at all, or (size) that many log files.
 void loading(std::size_t size, std::size_t repetitions)
 {
     Fixtures::make(size == 0 ? "nothing" : "logs", size);
@@ -68,20 +93,14 @@ void loading(std::size_t size, std::size_t repetitions)
                  .before = unload},
                 {.act = [&] { mapLibrary(library); }, .before = unload});
     }
-    const FloorNode floor{.name = L"KV Tessaro 2010",
-                          .children = {{.name = L"Engine Settings", .children = {{.name = L"Settings"}}},
-                                       {.name = L"Hot Folders"},
-                                       {.name = L"Server Templates"},
-                                       {.name = L"Users"},
-                                       {.name = L"Server Certificates"},
-                                       {.name = L"Log", .children = {{.name = L"Log Files"}}},
-                                       {.name = L"About KV Tessaro"}}};
-    const FloorRegistration registration(floor);
-    const Factory kept = plugInLibrary();
-    kept->LockServer(TRUE);
-    compare("Plug-in: load, open its root, take down", size, repetitions, {.act = [] { loadAndTakeDown(plugInClass); }},
-            {.act = [] { loadAndTakeDown(floorClass); }});
-    kept->LockServer(FALSE);
+    compareLoading(size == 0 ? "Plug-in: load, open its root, take down" : "Plug-in: load with log files", size,
+                   repetitions, [size] { logsIn(logFolder(size)); });
+}
+
+void loadingHotFolders(std::size_t size, std::size_t repetitions)
+{
+    makeHotFolders(size);
+    compareLoading("Plug-in: load with hot folders", size, repetitions, [] {});
 }
 
 } // namespace Bench

@@ -1,6 +1,7 @@
 #include "Fixtures.h"
 #include "List.h"
 #include "Report.h"
+#include "logFolder.h"
 #include "memoryUse.h"
 #include "subjects/subjects.h"
 
@@ -12,29 +13,6 @@ namespace
 {
 
 constexpr std::size_t smallestForMemory = 10000;
-
-std::wstring folderOf(std::size_t size)
-{
-    return L"C:\\bench\\logs-" + std::to_wstring(size) + L"\\"; // where fixtures.py puts them
-}
-
-std::vector<std::wstring> namesIn(const std::wstring& folder)
-{
-    std::vector<std::wstring> names;
-    WIN32_FIND_DATAW found{};
-    const HANDLE search = FindFirstFileExW((folder + L"*.log").c_str(), FindExInfoBasic, &found, FindExSearchNameMatch,
-                                           nullptr, FIND_FIRST_EX_LARGE_FETCH);
-    if (search == INVALID_HANDLE_VALUE)
-    {
-        return names;
-    }
-    do
-    {
-        names.emplace_back(found.cFileName);
-    } while (FindNextFileW(search, &found));
-    FindClose(search);
-    return names;
-}
 
 void deleteFile(const std::wstring& path)
 {
@@ -64,11 +42,11 @@ std::size_t memoryOf(Stage& stage, List& list, std::size_t size)
 void logFiles(std::size_t size, std::size_t repetitions)
 {
     Fixtures::make("logs", 0);
-    const std::wstring folder = folderOf(size);
+    const std::wstring folder = logFolder(size);
     FloorNode floor{
         .name = L"Floor",
         .children = {
-            {.name = L"Log Files", .columns = {L"Log name"}, .read = [&] { return namesIn(folder); }, .change = {}}}};
+            {.name = L"Log Files", .columns = {L"Log name"}, .read = [&] { return logsIn(folder); }, .change = {}}}};
     std::function<void()>& change = floor.children.front().change;
     Stage stage(floor);
     List plugIn(stage, stage.plugIn(), {L"Log", L"Log Files"});
@@ -99,7 +77,7 @@ void logFiles(std::size_t size, std::size_t repetitions)
             {.act = [&] { plugIn.readTexts(); }, .before = show(plugIn), .after = expect(size)},
             {.act = [&] { lowest.readTexts(); }, .before = show(lowest), .after = expect(size)});
 
-    const std::wstring middle = folder + namesIn(folder)[size / 2];
+    const std::wstring middle = folder + logsIn(folder)[size / 2];
     change = [&] { deleteFile(middle); };
     compare("Log Files: delete one", size, repetitions,
             {.act = [&] { plugIn.deleteSelected(); },
@@ -114,7 +92,7 @@ void logFiles(std::size_t size, std::size_t repetitions)
 
     change = [&]
     {
-        for (const std::wstring& name : namesIn(folder))
+        for (const std::wstring& name : logsIn(folder))
         {
             deleteFile(folder + name);
         }

@@ -94,6 +94,7 @@ void privateFonts(std::size_t size, std::size_t repetitions)
         return [&]
         {
             list.show();
+            list.select(list.middle());
             stage.frame().activate();
             answer.reset();
             answer.emplace(

@@ -9,6 +9,8 @@ namespace Bench
 using Subject = void (*)(std::size_t size, std::size_t repetitions);
 
 void loading(std::size_t size, std::size_t repetitions);
+void loadingHotFolders(std::size_t size, std::size_t repetitions);
+void hotFolders(std::size_t size, std::size_t repetitions);
 void logFiles(std::size_t size, std::size_t repetitions);
 void privateFonts(std::size_t size, std::size_t repetitions);
 
