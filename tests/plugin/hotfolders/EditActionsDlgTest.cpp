@@ -112,6 +112,7 @@ TEST_F(EditActionsDlgTest, hasTheseControls)
                                                                }));
             EXPECT_EQ(Acceptance::tabOrderOf(window.handle()),
                       (Ids{list, add, removeButton, edit, moveUp, moveDown, IDOK, IDCANCEL}));
+            EXPECT_FALSE(GetWindowLongW(window.control(list), GWL_STYLE) & LBS_SORT);
             window.press(IDCANCEL);
         });
     EXPECT_EQ(dialog.show(frame()), IDCANCEL);
