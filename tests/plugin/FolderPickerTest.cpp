@@ -1,7 +1,7 @@
 #include "DialogTestBase.h"
 
-#include "kit/ImportSpy.h"
 #include "kit/FolderDialog.h"
+#include "kit/ImportSpy.h"
 #include "tmgmt/ui/FolderPicker.h"
 
 #include <filesystem>

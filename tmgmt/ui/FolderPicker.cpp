@@ -1,6 +1,7 @@
 #include "tmgmt/ui/FolderPicker.h"
 
 #include <array>
+#include <cwchar>
 
 #include "platform/handles.h"
 #include "tmgmt/ui/moduleResources.h"
@@ -37,7 +38,8 @@ std::optional<std::wstring> FolderPicker::pick(HWND owner) const
     {
         return std::nullopt;
     }
-    return std::wstring(path.c_str());
+    path.resize(std::wcslen(path.c_str()));
+    return path;
 }
 
 } // namespace TMgmt
