@@ -19,7 +19,6 @@ namespace
 {
 
 using HotFolders::Action;
-using HotFolders::ActionList;
 using HotFolders::ActionType;
 using HotFolders::HotFolder;
 using Tessaro::OutputFormat;
