@@ -69,7 +69,8 @@ def row(figure, smallest):
     return (figure.what, f'{figure.size:,}' if listed else '', measured,
             '' if figure.spread is None else f'{figure.spread:.0%}',
             text(min(figure.floor), figure.unit) if figure.floor else '',
-            number(figure.ratio, ratio_limit), per_row, number(growth, LARGEST_GROWTH))
+            number(figure.ratio, ratio_limit), per_row,
+            number(growth, LARGEST_GROWTH if figure.unit == 'ns' else None))
 
 
 def table(figures):
