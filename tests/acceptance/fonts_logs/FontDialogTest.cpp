@@ -3,6 +3,7 @@
 #include "kit/ImportSpy.h"
 #include "kit/windows.h"
 
+#include <cderr.h>
 #include <commdlg.h>
 
 namespace Acceptance
@@ -277,18 +278,45 @@ TEST_F(FontBrowse, opensWithoutANameForATextThatIsNoPath)
     }
 }
 
+// Windows refuses such a text where Wine passes it over.
+TEST_F(FontBrowse, opensWithoutTheNameThatTheSystemRefuses)
+{
+    openAt();
+    bool refused = false;
+    OpenSpy open(
+        [&](OPENFILENAMEW* request)
+        {
+            refused = request->lpstrFile[0] != L'\0';
+            return refused ? FALSE : open.callThrough(request);
+        });
+    ImportSpy<"CommDlgExtendedError", decltype(CommDlgExtendedError)> error(
+        [&]() -> DWORD { return refused ? FNERR_INVALIDFILENAME : error.callThrough(); });
+    browseFrom(L"a<b>");
+    fileDialog([](FileDialog& dialog) { dialog.cancel(); });
+    expectFile(L"a<b>");
+    openEditor();
+    EXPECT_EQ(2, open.calls());
+}
+
 TEST_F(FontBrowse, leavesTheCurrentFolderOfTheConsoleAlone)
 {
-    wchar_t before[MAX_PATH];
-    GetCurrentDirectoryW(MAX_PATH, before);
+    const auto before = std::filesystem::current_path();
+    const std::filesystem::path other = windowsFile(L"");
+    ASSERT_FALSE(std::filesystem::equivalent(before, other));
     openAt();
+    OpenSpy spy(
+        [&](OPENFILENAMEW* request)
+        {
+            const BOOL chosen = spy.callThrough(request);
+            // As Windows does, and Wine not always.
+            std::filesystem::current_path(other);
+            return chosen;
+        });
     browseFrom(L"");
     fileDialog([](FileDialog& dialog) { dialog.choose(windowsFile(L"win.ini")); });
     expectFile(windowsFile(L"win.ini"));
     openEditor();
-    wchar_t after[MAX_PATH];
-    GetCurrentDirectoryW(MAX_PATH, after);
-    EXPECT_STREQ(before, after);
+    EXPECT_EQ(before, std::filesystem::current_path());
 }
 
 // Wine's dialog cannot hold a path that is too long itself, so its room is made smaller on the way.

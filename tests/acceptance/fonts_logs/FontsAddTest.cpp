@@ -126,7 +126,7 @@ TEST_F(FontsAdd, selectsTheNodeAndThenTellsEveryView)
     recorder.forgetCalls();
     add({.family = L"Arial", .file = L"a.ttf"});
     EXPECT_EQ(node, view().selected()) << "the command was run on a node that was not selected";
-    EXPECT_EQ(1u, recorder.calls(L"IConsole::SelectScopeItem").size());
+    ASSERT_EQ(1u, recorder.calls(L"IConsole::SelectScopeItem").size());
     EXPECT_EQ(S_OK, recorder.calls(L"IConsole::SelectScopeItem").front().result);
     const auto updates = recorder.calls(L"IConsole::UpdateAllViews");
     ASSERT_FALSE(updates.empty());
