@@ -98,9 +98,12 @@ TEST_F(Menus, noVerbIsEnabledOnNodesAndRowsOfThisKind)
         for (int row = 0; row < view().view().rowCount(); ++row)
         {
             view().view().selectRows({row});
+            // The hot folders are refreshed by the console's own command.
+            const bool refreshes = view().view().rowText(row, 0) == L"Hot Folders";
             for (const MMC_CONSOLE_VERB verb : settledVerbs)
             {
-                EXPECT_FALSE(view().view().verb(verb).enabled) << row << ' ' << verb;
+                EXPECT_EQ(refreshes && verb == MMC_VERB_REFRESH, view().view().verb(verb).enabled)
+                    << row << ' ' << verb;
             }
         }
     }

@@ -1,3 +1,4 @@
+#include "brimlow/hotfolder/HotFolderCollection.h"
 #include "frame/BareSnapIn.h"
 #include "frame/nodeData.h"
 #include "kit/ConsoleTest.h"
@@ -103,9 +104,12 @@ TEST_P(ScopeNodes, areShownInTheDefaultList)
     wchar_t nothing[] = L"";
     LPOLESTR type = nothing;
     long options = 77;
-    EXPECT_EQ(S_FALSE, view->component->GetResultViewType(snapIn.node(GetParam().path).lParam, &type, &options));
+    // Only hot folders can be selected several at once, and only a list with options of its own says so.
+    const bool several = std::wstring(GetParam().path) == L"Hot Folders";
+    EXPECT_EQ(several ? S_OK : S_FALSE,
+              view->component->GetResultViewType(snapIn.node(GetParam().path).lParam, &type, &options));
     EXPECT_EQ(nullptr, type);
-    EXPECT_EQ(MMC_VIEW_OPTIONS_NONE, options);
+    EXPECT_EQ(several ? MMC_VIEW_OPTIONS_MULTISELECT : MMC_VIEW_OPTIONS_NONE, options);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -158,6 +162,10 @@ class ResultRows : public ConsoleTest, public testing::WithParamInterface<Result
                                                           "    <add key=\"MapFont:B\" value=\"b.ttf\"/>\r\n"));
         ServerFiles::write(ServerFiles::folder() / L"Log" / L"one.log", "");
         ServerFiles::write(ServerFiles::folder() / L"Log" / L"two.log", "");
+        HotFolders::HotFolder hotFolder;
+        hotFolder.setFolder(L"C:\\One");
+        hotFolder.setOutputFolder(L"C:\\Out");
+        HotFolders::HotFolderCollection().addNewFolder(hotFolder);
     }
 };
 
@@ -188,6 +196,8 @@ constexpr wchar_t settingRow[] = L"{5E04C561-3019-11D3-8856-204C4F4F5020}";
 INSTANTIATE_TEST_SUITE_P(
     All, ResultRows,
     testing::Values(ResultRow{L"About KV Tessaro", 4, L"Property Item", L"{FCD66532-7182-476C-8D0B-A8AC16FA9FE2}", 2},
+                    // A hot folder goes by its own name.
+                    ResultRow{L"Hot Folders", 1, L"One", L"{5CEF680A-BF2E-49F5-B074-59D8CB29612D}", 8},
                     ResultRow{L"Engine Settings\\Listener Configuration", 3, L"Property Item", settingRow, 2},
                     ResultRow{L"Engine Settings\\AFP Encoder", 4, L"Property Item", settingRow, 2},
                     ResultRow{L"Engine Settings\\Private Fonts", 2, L"Private Font Item",

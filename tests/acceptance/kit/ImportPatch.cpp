@@ -36,9 +36,17 @@ void** findImport(HMODULE module, const char* name)
 
 ImportPatch::ImportPatch(const char* name, void* replacement, const wchar_t* module)
 {
-    if (!GetModuleHandleExW(0, module, m_module.put()))
+    if (module)
     {
-        throw std::runtime_error("the module is not loaded");
+        m_module.reset(LoadLibraryW(module));
+    }
+    else
+    {
+        GetModuleHandleExW(0, nullptr, m_module.put());
+    }
+    if (!m_module)
+    {
+        throw std::runtime_error("the module cannot be loaded");
     }
     m_place = findImport(m_module.get(), name);
     m_former = *m_place;
