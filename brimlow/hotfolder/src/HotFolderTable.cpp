@@ -71,8 +71,8 @@ HotFolder HotFolderTable::add(Connection& connection, const HotFolder& folder)
 {
     HotFolder added = folder;
     HotFolder::Fields& fields = added.change();
+    // It may be a copy of one that is stored, and is another one all the same.
     fields.row = 0;
-    fields.identity = {};
     checkUnique(connection, added);
 
     Statement insert(connection,

@@ -163,6 +163,8 @@ TEST_F(HotFolderCollectionTest, RefusesASecondHotFolderForTheSameFiles)
         EXPECT_EQ(L"Another hot folder already watches \"C:\\\u00C4rger\\In\" for \"*.Xml\".",
                   refusal([&] { folders.addNewFolder(hotFolder(same, L"*.xML")); }));
     }
+    EXPECT_EQ(L"Another hot folder already watches \"C:\\\u00C4rger\\In\" for \"*.Xml\".",
+              refusal([&] { folders.addNewFolder(folders.getAt(0)); }));
     EXPECT_EQ(1, folders.getCount());
     EXPECT_EQ(L"accepted", refusal([&] { folders.addNewFolder(hotFolder(L"C:\\\u00C4rger\\In", L"*.txt")); }));
     EXPECT_EQ(L"accepted", refusal([&] { folders.addNewFolder(hotFolder(L"C:\\\u00C4rger\\In2", L"*.Xml")); }));

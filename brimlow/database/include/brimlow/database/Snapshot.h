@@ -53,7 +53,7 @@ class Snapshot
         const auto content = m_content.use_count() > ownReferences ? std::make_shared<Content>(*m_content) : m_content;
         transaction.commit();
 
-        m_mark.reset();
+        // Should this fail, the former mark, which is that of no content any more, makes the next look read anew.
         apply(*content);
         m_content = content;
         m_mark = mark;
