@@ -3,6 +3,7 @@
 #include <cderr.h>
 #include <commdlg.h>
 
+#include <cwchar>
 #include <system_error>
 
 #include "tmgmt/ui/messageBox.h"
@@ -61,7 +62,8 @@ std::optional<std::wstring> FilePicker::pick(HWND owner, const std::wstring& ini
     request.Flags = flags;
     if (GetOpenFileNameW(&request))
     {
-        return std::wstring(file.c_str());
+        file.resize(std::wcslen(file.c_str()));
+        return file;
     }
     switch (const DWORD error = CommDlgExtendedError())
     {
