@@ -47,5 +47,10 @@ picture dialog-edit-bool-property --select "$encoder" --row 'Convert to Grayscal
 picture dialog-edit-enum-property --select "$encoder" --row 'Fonts Used' --command 1000
 picture dialog-edit-enum-property-three --select "$encoder" --row 'Grayscale Method' --command 1000
 picture dialog-edit-private-font --select "$fonts" --row ARIAL --command 1044
+picture dialog-hot-folder --select 'Hot Folders' --row Invoices --command 1048
+picture dialog-add-hot-folder --select 'Hot Folders' --command 1022
+picture dialog-actions --select 'Hot Folders' --row Invoices --command 1048 --press 246
+picture dialog-edit-action --select 'Hot Folders' --row Invoices --command 1048 --press 246 --press 261
+picture dialog-hot-folder-settings --select 'Hot Folders' --row Invoices --command 1048 --press 287
 picture dialog-edit-log-level --select 'Log' --row 'Log Level' --command 1000
 [ -z "$own_display" ] || stop_wine

@@ -23,11 +23,11 @@ using HotFolders::ActionType;
 using HotFolders::HotFolder;
 using Tessaro::OutputFormat;
 
-HotFolder hotFolder(const Core::String& folder, const wchar_t* pattern, OutputFormat format)
+HotFolder hotFolder(const Core::String& name, const wchar_t* pattern, OutputFormat format)
 {
     HotFolder result;
-    result.setFolder(folder + L"\\In");
-    result.setOutputFolder(folder + L"\\Out");
+    result.setFolder(L"C:\\HotFolders\\" + name);
+    result.setOutputFolder(L"C:\\Rendered\\" + name);
     result.setFileMatchPattern(pattern);
     result.setOutputFormat(format);
     return result;
@@ -71,17 +71,17 @@ void addThree()
     {
         return;
     }
-    HotFolder invoices = hotFolder(L"C:\\HotFolders\\Invoices", L"*.xml", OutputFormat::Pdf);
+    HotFolder invoices = hotFolder(L"Invoices", L"*.xml", OutputFormat::Pdf);
     invoices.setOnSuccessActionList({call(L"http://localhost:8080/archive?file={OutputFile}"), deleteInput()});
-    invoices.setOnFailureActionList({moveTo(L"C:\\HotFolders\\Invoices\\Failed")});
+    invoices.setOnFailureActionList({moveTo(L"C:\\Failed\\Invoices")});
     add(invoices);
 
-    HotFolder labels = hotFolder(L"C:\\HotFolders\\Labels", L"*.fo", OutputFormat::Png);
+    HotFolder labels = hotFolder(L"Labels", L"*.fo", OutputFormat::Png);
     labels.setPageIndex(1);
-    labels.setOnSuccessActionList({moveTo(L"C:\\HotFolders\\Labels\\Done")});
+    labels.setOnSuccessActionList({moveTo(L"C:\\Done\\Labels")});
     add(labels);
 
-    HotFolder statements = hotFolder(L"C:\\HotFolders\\Statements", L"*.*", OutputFormat::Afp);
+    HotFolder statements = hotFolder(L"Statements", L"*.*", OutputFormat::Afp);
     statements.setEnableMonitoring(false);
     add(statements);
 }
@@ -93,9 +93,8 @@ void addMany(int count)
     Database::Transaction transaction(connection, Database::Transaction::Kind::write);
     for (int number = 0; number < count; ++number)
     {
-        HotFolder folder =
-            hotFolder(L"C:\\HotFolders\\Folder " + Core::String(std::to_wstring(number)), L"*.xml", OutputFormat::Pdf);
-        folder.setOnSuccessActionList({moveTo(L"C:\\HotFolders\\Done"), call(L"http://localhost:8080/archive")});
+        HotFolder folder = hotFolder(L"Folder " + Core::String(std::to_wstring(number)), L"*.xml", OutputFormat::Pdf);
+        folder.setOnSuccessActionList({moveTo(L"C:\\Done"), call(L"http://localhost:8080/archive")});
         HotFolders::HotFolderTable::add(connection, folder);
     }
     transaction.commit();
