@@ -95,6 +95,33 @@ TEST_F(LogList, showsNamesInAnyScriptAsTheyAre)
     EXPECT_EQ(Names{}, names());
 }
 
+// Windows allows it in a file's name, Wine does not.
+TEST_F(LogList, keepsHalfASurrogatePair)
+{
+    const std::wstring name = L"a\xD800z.log";
+    std::filesystem::create_directories(defaultFolder());
+    open();
+    ImportSpy<"FindFirstFileExW", decltype(FindFirstFileExW)> listing(
+        [&](LPCWSTR pattern, FINDEX_INFO_LEVELS level, LPVOID found, auto... rest)
+        {
+            const HANDLE search = listing.callThrough(pattern, level, found, rest...);
+            std::copy_n(name.c_str(), name.size() + 1, static_cast<WIN32_FIND_DATAW*>(found)->cFileName);
+            static_cast<WIN32_FIND_DATAW*>(found)->dwFileAttributes = FILE_ATTRIBUTE_NORMAL;
+            return search;
+        });
+    std::wstring deleted;
+    ImportSpy<"DeleteFileW", decltype(DeleteFileW)> deletion(
+        [&](LPCWSTR path)
+        {
+            deleted = path;
+            return TRUE;
+        });
+    view().select(logFiles);
+    EXPECT_EQ(name, view().rows().at(0).at(0));
+    view().pressDelete(name);
+    EXPECT_EQ(name, std::filesystem::path(deleted).filename().wstring());
+}
+
 TEST_F(LogList, hasNothingInFurtherColumns)
 {
     write(L"a.log");
