@@ -13,7 +13,7 @@ from table import Figure, table
 SUBJECTS = {
     'loading': [0, 1000, 10000, 100000],
     'loading-hot-folders': [1000, 10000],
-    'hot-folders': [1000, 10000],
+    'hot-folders': [100, 1000, 10000],
     'log-files': [1000, 10000, 100000],
     'private-fonts': [1000, 10000],
 }

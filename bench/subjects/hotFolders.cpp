@@ -15,6 +15,9 @@ namespace Bench
 namespace
 {
 
+constexpr int inputEdit = 232;
+constexpr int outputEdit = 237;
+
 std::vector<std::wstring> hotFolderCells()
 {
     const HotFolders::HotFolderCollection hotFolders;
@@ -74,17 +77,41 @@ void hotFolders(std::size_t size, std::size_t repetitions)
             {.act = refresh(lowest), .before = showChanged(lowest), .after = whole});
 
     std::optional<DialogAnswer> answer;
-    const auto showAndAwait = [&](List& list)
+    const auto showAndAwait = [&](List& list, const std::map<int, std::wstring>& texts)
     {
-        return [&]
+        return [&, texts]
         {
             list.show();
             list.select(list.middle());
             stage.frame().activate();
             answer.reset();
-            answer.emplace(std::map<int, std::wstring>{});
+            answer.emplace(texts);
         };
     };
+    const auto other = [&](std::size_t rows)
+    {
+        return [&, rows]
+        {
+            plugIn.expectRows(rows);
+            Fixtures::make("hot-folders", size);
+        };
+    };
+
+    const std::map<int, std::wstring> added{{inputEdit, L"C:\\bench\\hot"}, {outputEdit, L"C:\\bench\\out"}};
+    node.change = [&]
+    {
+        showFloorDialog();
+        HotFolders::HotFolder hotFolder;
+        hotFolder.setFolder(added.at(inputEdit));
+        hotFolder.setOutputFolder(added.at(outputEdit));
+        HotFolders::HotFolderCollection().addNewFolder(hotFolder);
+    };
+    compare("Hot Folders: add one", size, repetitions,
+            {.act = [&] { plugIn.runCommand(L"&Add Hot Folder..."); },
+             .before = showAndAwait(plugIn, added),
+             .after = other(size + 1)},
+            {.act = refresh(lowest), .before = showAndAwait(lowest, added), .after = other(size + 1)});
+
     const auto middle = [&](const HotFolders::HotFolderCollection& all)
     { return all.getAt(static_cast<int>(size / 2)); };
     node.listsAnew = false;
@@ -95,15 +122,10 @@ void hotFolders(std::size_t size, std::size_t repetitions)
         all.updateFolder(middle(all));
     };
     compare("Hot Folders: edit one", size, repetitions,
-            {.act = [&] { plugIn.open(plugIn.middle()); }, .before = showAndAwait(plugIn), .after = whole},
-            {.act = refresh(lowest), .before = showAndAwait(lowest), .after = whole});
+            {.act = [&] { plugIn.open(plugIn.middle()); }, .before = showAndAwait(plugIn, {}), .after = whole},
+            {.act = refresh(lowest), .before = showAndAwait(lowest, {}), .after = whole});
     answer.reset();
 
-    const auto oneLess = [&]
-    {
-        plugIn.expectRows(size - 1);
-        Fixtures::make("hot-folders", size);
-    };
     node.listsAnew = true;
     node.change = [&]
     {
@@ -118,8 +140,8 @@ void hotFolders(std::size_t size, std::size_t repetitions)
                  plugIn.show();
                  plugIn.select(plugIn.middle());
              },
-             .after = oneLess},
-            {.act = refresh(lowest), .before = show(lowest), .after = oneLess});
+             .after = other(size - 1)},
+            {.act = refresh(lowest), .before = show(lowest), .after = other(size - 1)});
 }
 
 } // namespace Bench

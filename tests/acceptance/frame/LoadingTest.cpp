@@ -1,7 +1,7 @@
 #include "frame/BareSnapIn.h"
-#include "kit/ImportPatch.h"
 #include "frame/nodeData.h"
 #include "kit/ConsoleTest.h"
+#include "kit/ImportPatch.h"
 
 #include <array>
 

@@ -1,8 +1,8 @@
-#include "kit/ImportPatch.h"
 #include "frame/LoadedModule.h"
 #include "frame/RegistrySnapshot.h"
 #include "frame/childProcess.h"
 #include "kit/ConsoleTest.h"
+#include "kit/ImportPatch.h"
 #include "kit/windows.h"
 #include "platform/mmc.h"
 

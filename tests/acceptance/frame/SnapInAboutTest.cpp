@@ -1,6 +1,6 @@
-#include "kit/ImportPatch.h"
 #include "frame/systemConfiguration.h"
 #include "kit/ConsoleTest.h"
+#include "kit/ImportPatch.h"
 #include "platform/handles.h"
 #include "platform/mmc.h"
 

@@ -81,62 +81,61 @@ class EditHotFolderDlgBrowseTest : public EditHotFolderDlgTestBase
         action.setDestinationPath(path);
         return action;
     }
+
+    struct FolderField
+    {
+        int button;
+        int field;
+        int otherField;
+    };
+
+    std::wstring chosenFolder() const { return makeFolder(L"chosen"); }
+
+    // Chooses chosenFolder() through that button, checks what the system was asked and what the fields show, cancels
+    // the editor, and returns the hot folder that it has then.
+    HotFolder choose(const FolderField& place, const wchar_t* title)
+    {
+        const FolderChooserSpy spy;
+        EditHotFolderDlg dialog;
+        HWND owner = nullptr;
+        inDialog(
+            [&](ModalWindow& window)
+            {
+                owner = window.handle();
+                window.press(place.button);
+            });
+        chooseFolder(chosenFolder());
+        inDialog(
+            [&](ModalWindow& window)
+            {
+                EXPECT_EQ(window.text(place.field), chosenFolder());
+                EXPECT_EQ(window.text(place.otherField), L"");
+                window.press(IDCANCEL);
+            });
+        EXPECT_EQ(dialog.show(frame()), IDCANCEL);
+        EXPECT_EQ(spy.requests().size(), 1U);
+        for (const auto& request : spy.requests())
+        {
+            EXPECT_EQ(request.title, title);
+            EXPECT_EQ(request.flags, chooserFlags);
+            EXPECT_EQ(request.owner, owner);
+        }
+        return dialog.hotFolder;
+    }
 };
 
 TEST_F(EditHotFolderDlgBrowseTest, takesAChosenInputFolderAtOnce)
 {
-    const std::wstring path = makeFolder(L"chosen");
-    const FolderChooserSpy spy;
-    EditHotFolderDlg dialog;
-    HWND owner = nullptr;
-    inDialog(
-        [&](ModalWindow& window)
-        {
-            owner = window.handle();
-            window.press(browseInput);
-        });
-    chooseFolder(path);
-    inDialog(
-        [&](ModalWindow& window)
-        {
-            EXPECT_EQ(window.text(input), path);
-            EXPECT_EQ(window.text(output), L"");
-            window.press(IDCANCEL);
-        });
-    EXPECT_EQ(dialog.show(frame()), IDCANCEL);
-    EXPECT_EQ(dialog.hotFolder.getFolder(), path);
-    ASSERT_EQ(spy.requests().size(), 1U);
-    EXPECT_EQ(spy.requests()[0].title, L"Select a folder to monitor");
-    EXPECT_EQ(spy.requests()[0].flags, chooserFlags);
-    EXPECT_EQ(spy.requests()[0].owner, owner);
+    const HotFolder chosen =
+        choose({.button = browseInput, .field = input, .otherField = output}, L"Select a folder to monitor");
+    EXPECT_EQ(chosen.getFolder(), chosenFolder());
 }
 
 TEST_F(EditHotFolderDlgBrowseTest, takesAChosenOutputFolderAtOnce)
 {
-    const std::wstring path = makeFolder(L"chosen");
-    const FolderChooserSpy spy;
-    EditHotFolderDlg dialog;
-    HWND owner = nullptr;
-    inDialog(
-        [&](ModalWindow& window)
-        {
-            owner = window.handle();
-            window.press(browseOutput);
-        });
-    chooseFolder(path);
-    inDialog(
-        [&](ModalWindow& window)
-        {
-            EXPECT_EQ(window.text(output), path);
-            EXPECT_EQ(window.text(input), L"");
-            window.press(IDCANCEL);
-        });
-    EXPECT_EQ(dialog.show(frame()), IDCANCEL);
-    EXPECT_EQ(dialog.hotFolder.getOutputFolder(), path);
-    ASSERT_EQ(spy.requests().size(), 1U);
-    EXPECT_EQ(spy.requests()[0].title, L"Select the output folder");
-    EXPECT_EQ(spy.requests()[0].flags, chooserFlags);
-    EXPECT_EQ(spy.requests()[0].owner, owner);
+    const HotFolder chosen =
+        choose({.button = browseOutput, .field = output, .otherField = input}, L"Select the output folder");
+    EXPECT_EQ(chosen.getOutputFolder(), chosenFolder());
 }
 
 TEST_F(EditHotFolderDlgBrowseTest, keepsBothFoldersWhenTheChooserIsCancelled)
