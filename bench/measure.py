@@ -12,7 +12,7 @@ from table import Figure, table
 # Subjects of Bench.exe and their sizes. Each is a process of its own, so that none finds another's memory.
 SUBJECTS = {
     'loading': [0, 1000, 10000, 100000],
-    'loading-hot-folders': [1000, 10000],
+    'loading-hot-folders': [100, 1000, 10000],
     'hot-folders': [100, 1000, 10000],
     'log-files': [1000, 10000, 100000],
     'private-fonts': [1000, 10000],
