@@ -1,3 +1,4 @@
+#include "frame/BareSnapIn.h"
 #include "hotfolders/HotFoldersTest.h"
 #include "kit/ImportSpy.h"
 
@@ -106,6 +107,23 @@ TEST_F(HotFolderList, showsTheSameInEveryViewAfterARefreshInOne)
     view(1).view().runVerb(MMC_VERB_REFRESH);
     EXPECT_THAT(names(0), ElementsAre(L"Invoices"));
     EXPECT_THAT(names(1), ElementsAre(L"Invoices"));
+}
+
+// No console asks a row for it.
+TEST_F(HotFolderList, hasAViewForEachHotFolderAndNothingInFurtherColumns)
+{
+    storeAll({L"Invoices"});
+    BareSnapIn snapIn;
+    const auto bare = snapIn.makeView();
+    const SCOPEDATAITEM parent = snapIn.node(node);
+    ASSERT_EQ(S_OK, bare->component->Notify(snapIn.object(parent.lParam).Get(), MMCN_SHOW, TRUE, parent.ID));
+    ASSERT_EQ(1u, bare->console.results.inserted.size());
+    const MMC_COOKIE row = bare->console.results.inserted.front().lParam;
+    EXPECT_EQ(L"", bare->cell(row, 4));
+    const auto object = bare->object(row);
+    bare->console.header.columns.clear();
+    EXPECT_EQ(S_OK, bare->component->Notify(object.Get(), MMCN_SHOW, TRUE, 0));
+    EXPECT_THAT(bare->console.header.columns, ElementsAre(HeaderDouble::Column{0, L"File Name", LVCFMT_LEFT, 275}));
 }
 
 TEST_F(HotFolderList, showsTheWaitCursorWhileItIsRead)
