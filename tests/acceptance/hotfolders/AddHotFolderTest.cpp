@@ -56,8 +56,7 @@ TEST_F(AddHotFolder, startsFromTheDefaultsWithTheRestartBoxClear)
 
 TEST_F(AddHotFolder, neitherWritesThePreferenceNorRestartsTheService)
 {
-    Service::install();
-    Service::start();
+    startService();
     const DWORD before = Service::processId();
     Registry::setRestartPreference({REG_SZ, L"true"});
     openNode();

@@ -32,8 +32,7 @@ TEST_F(DeleteHotFolder, asksNothingAndListsTheRest)
 TEST_F(DeleteHotFolder, doesNotRestartTheService)
 {
     Registry::setRestartPreference({REG_SZ, L"true"});
-    Service::install();
-    Service::start();
+    startService();
     const DWORD before = Service::processId();
     openNode();
     view().pressDelete(L"Invoices");

@@ -126,8 +126,7 @@ TEST_F(EditHotFolder, showsTheRestartPreference)
 TEST_F(EditHotFolder, withTheBoxClearStoresThatAndLeavesTheServiceAlone)
 {
     Registry::setRestartPreference({REG_SZ, L"true"});
-    Service::install();
-    Service::start();
+    startService();
     const DWORD before = Service::processId();
     openNode();
     edit(L"*.xml", false, IDOK);
@@ -138,8 +137,7 @@ TEST_F(EditHotFolder, withTheBoxClearStoresThatAndLeavesTheServiceAlone)
 
 TEST_F(EditHotFolder, withTheBoxTickedStoresThatAndRestartsTheService)
 {
-    Service::install();
-    Service::start();
+    startService();
     const DWORD before = Service::processId();
     openNode();
     edit(L"*.xml", true, IDOK);
@@ -154,8 +152,7 @@ TEST_F(EditHotFolder, thatTheLibraryRefusesStaysInTheRowAndRestartsNothing)
     HotFolders::HotFolder other = hotFolder(L"Invoices");
     other.setFileMatchPattern(L"*.xml");
     store(other);
-    Service::install();
-    Service::start();
+    startService();
     const DWORD before = Service::processId();
     openNode();
     edit(L"*.xml", true, IDOK);

@@ -66,6 +66,16 @@ std::filesystem::path HotFoldersTest::database()
     return ServerFiles::folder() / L"Data" / L"HotFolders.db";
 }
 
+void HotFoldersTest::startService()
+{
+    ServerFiles::write(ServerFiles::configuration(),
+                       ServerFiles::configurationWith("    <add key=\"ServerAddress\" value=\"127.0.0.1\"/>\r\n"
+                                                      "    <add key=\"ServerPort\" value=\"" +
+                                                      std::to_string(Service::freePort()) + "\"/>\r\n"));
+    Service::install();
+    Service::start();
+}
+
 void HotFoldersTest::openNode(int views)
 {
     open(views);

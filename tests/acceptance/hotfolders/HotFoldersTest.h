@@ -48,6 +48,9 @@ class HotFoldersTest : public ConsoleTest
     static std::vector<std::wstring> storedNames();
     static std::filesystem::path database();
 
+    // Installs and starts the service, on a port of its own.
+    static void startService();
+
     // Opens the console and shows the node.
     void openNode(int views = 1);
     std::vector<std::wstring> names(std::size_t view = 0);
