@@ -1,16 +1,18 @@
 #!/usr/bin/env bash
 # Builds the libraries that Debian has no Windows packages of, once, into a cache outside the checkout:
-# pugixml and SQLite from Debian's source packages, GoogleTest from the sources that the package googletest installs.
+# OpenSSL, pugixml and SQLite from Debian's source packages, GoogleTest from the sources that the package googletest
+# installs.
 # Prints the folder, for TM_WINDOWS_DEPS.
 set -euo pipefail
 here=$(cd "$(dirname "$0")/.." && pwd)
 
+openssl_version=$(dpkg-query -W -f='${Version}' libssl-dev)
 pugixml_version=$(dpkg-query -W -f='${source:Upstream-Version}' libpugixml-dev)
 sqlite_version=$(dpkg-query -W -f='${Version}' libsqlite3-dev)
 gtest_version=$(dpkg-query -W -f='${Version}' googletest)
 compiler=$(x86_64-w64-mingw32-g++-posix -dumpfullversion)
 cache=${XDG_CACHE_HOME:-$HOME/.cache}/kv-tessaro-management
-deps=$cache/windows-x64-gcc$compiler-pugixml$pugixml_version-sqlite$sqlite_version-gtest$gtest_version
+deps=$cache/windows-x64-gcc$compiler-openssl$openssl_version-pugixml$pugixml_version-sqlite$sqlite_version-gtest$gtest_version
 if [ -e "$deps" ]; then
   echo "$deps"
   exit 0
@@ -38,15 +40,22 @@ else
   sources=$work/src.list
   sed -n 's/^deb /deb-src /p' /etc/apt/sources.list >"$sources"
 fi
-source_apt() {
-  logged apt apt-get -qq -o "Dir::Etc::sourcelist=$sources" -o Dir::Etc::sourceparts=- \
-    -o "Dir::State::lists=$work/lists" "$@"
-}
+source_options=(-o "Dir::Etc::sourcelist=$sources" -o Dir::Etc::sourceparts=- -o "Dir::State::lists=$work/lists")
 
-# fetch_source PACKAGE: prints the folder of its sources, with Debian's patches.
+# fetch_source PACKAGE: prints the folder of its sources, with Debian's patches. Where the list names a version that the
+# archive does not hand out (yet), the one before it is taken.
 fetch_source() {
-  (cd "$work/src" && source_apt source "$1")
-  find "$work/src" -mindepth 1 -maxdepth 1 -type d -name "$1-*"
+  local version
+  mkdir "$work/src/$1"
+  cd "$work/src/$1"
+  for version in $(apt-cache "${source_options[@]}" showsrc --only-source "$1" | sed -n 's/^Version: //p' | sort -urV); do
+    if apt-get -qq "${source_options[@]}" source "$1=$version" >>"$work/$1.log" 2>&1; then
+      find "$PWD" -mindepth 1 -maxdepth 1 -type d
+      return
+    fi
+  done
+  cat "$work/$1.log" >&2
+  return 1
 }
 
 # build_cmake SOURCES NAME OPTIONS…
@@ -70,7 +79,26 @@ build_sqlite() {
   cd "$here"
 }
 
-source_apt update
+# build_openssl SOURCES: the cryptography alone, without TLS and programs. What old PKCS#12 files are encrypted with is
+# linked in ("no-module"), and nothing is ever loaded or configured from a folder of the machine, where somebody could
+# put it.
+build_openssl() {
+  cp -r "$1" "$work/build-openssl"
+  cd "$work/build-openssl"
+  logged openssl ./Configure mingw64 CC=x86_64-w64-mingw32-gcc-posix AR=x86_64-w64-mingw32-ar \
+    RANLIB=x86_64-w64-mingw32-ranlib RC=x86_64-w64-mingw32-windres \
+    no-shared no-module no-dso no-engine no-autoload-config no-tests no-comp no-ui-console
+  logged openssl make build_generated
+  logged openssl make -j"$(nproc)" libcrypto.a
+  cp libcrypto.a "$work/deps/lib"
+  cp -r include/openssl "$work/deps/include"
+  cd "$here"
+}
+
+logged apt apt-get -qq "${source_options[@]}" update
+echo "Building OpenSSL $openssl_version for Windows (once)" >&2
+openssl=$(fetch_source openssl)
+build_openssl "$openssl"
 echo "Building pugixml $pugixml_version for Windows (once)" >&2
 pugixml=$(fetch_source pugixml)
 build_cmake "$pugixml" pugixml

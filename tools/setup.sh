@@ -5,7 +5,7 @@ set -euo pipefail
 packages=(
   g++ clang cmake ninja-build git ca-certificates
   g++-mingw-w64-x86-64-posix mingw-w64-tools libwine-dev
-  libpugixml-dev libsqlite3-dev googletest libgtest-dev dpkg-dev make tcl
+  libpugixml-dev libsqlite3-dev libssl-dev openssl perl googletest libgtest-dev dpkg-dev make tcl
   clang-format clang-tidy libclang-rt-14-dev
   wine wine64 fonts-wine xvfb x11-utils imagemagick python3 procps
 )
