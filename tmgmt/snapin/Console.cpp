@@ -141,6 +141,24 @@ ComPtr<IConsoleNameSpace> Console::nameSpace()
     return query<IConsoleNameSpace>();
 }
 
+void Console::updateScopeItem(CSnapInItem& node)
+{
+    SCOPEDATAITEM record = node.GetScopeData();
+    if (record.ID != 0)
+    {
+        record.mask = SDI_STR | SDI_IMAGE | SDI_OPENIMAGE | SDI_CHILDREN;
+        throwIfFailed(nameSpace()->SetItem(&record));
+    }
+}
+
+void Console::removeScopeItem(CSnapInItem& node)
+{
+    if (const HSCOPEITEM id = std::exchange(node.GetScopeData().ID, 0))
+    {
+        throwIfFailed(nameSpace()->DeleteItem(id, TRUE));
+    }
+}
+
 void Console::updateAllViews(CSnapInItem& item, DATA_OBJECT_TYPES type)
 {
     const auto object = item.GetDataObject(type);

@@ -47,6 +47,15 @@ TEST(StringSearch, FindsTheFirstOccurrenceFromAPlaceOn)
     EXPECT_EQ(String::npos, String().find(L"a"));
 }
 
+TEST(StringSearch, FindsTheFirstUnitThatIsOneOfSeveral)
+{
+    EXPECT_EQ(2u, String(L"ab:c/d").findOneOf(L"\\/:"));
+    EXPECT_EQ(0u, String(L"/").findOneOf(L"\\/:"));
+    EXPECT_EQ(String::npos, String(L"abc").findOneOf(L"\\/:"));
+    EXPECT_EQ(String::npos, String(L"abc").findOneOf(L""));
+    EXPECT_EQ(String::npos, String().findOneOf(L"abc"));
+}
+
 TEST(StringSearch, ReplacesEveryOccurrence)
 {
     const struct

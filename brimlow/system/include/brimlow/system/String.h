@@ -57,6 +57,8 @@ class String
     bool startsWith(const String& beginning) const noexcept { return view().starts_with(beginning.view()); }
     // Where text occurs for the first time at or after the unit number from; npos when it does not.
     std::size_t find(const String& text, std::size_t from = 0) const noexcept { return view().find(text.view(), from); }
+    // Where the first unit is that is one of these; npos when there is none.
+    std::size_t findOneOf(const String& units) const noexcept { return view().find_first_of(units.view()); }
     static constexpr std::size_t npos = View::npos;
     // The text with every occurrence replaced, from left to right; what was put in is not searched again. Replacing the
     // empty text changes nothing.

@@ -105,6 +105,8 @@ class CSnapInItemImpl : public CSnapInItem
     }
 
     const std::wstring& displayName() const noexcept { return m_displayName; }
+    // A console that shows the node asks for the name again when it is told to: Console::updateScopeItem or updateRow.
+    void setDisplayName(const wchar_t* name) { m_displayName = name; }
 
   private:
     CSnapInItemImpl(const wchar_t* displayName, int image) : m_displayName(displayName)

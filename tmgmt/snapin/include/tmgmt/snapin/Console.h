@@ -61,6 +61,11 @@ class Console
 
     HRESULT selectScopeItem(HSCOPEITEM item);
     Microsoft::WRL::ComPtr<IConsoleNameSpace> nameSpace();
+    // Has the console ask for the node's name and pictures, and tells it how many children there are. Does nothing for
+    // a node that is not in the tree.
+    void updateScopeItem(CSnapInItem& node);
+    // Takes the node, and all that is below it, out of the tree. Does nothing for a node that is not there.
+    void removeScopeItem(CSnapInItem& node);
 
     // Tells every view that this node has changed. A view that cannot be told keeps what it shows: the change itself
     // has happened by then, so nothing is thrown.
