@@ -8,6 +8,7 @@
 #include "tmgmt/resources/ids.h"
 #include "tmgmt/ui/FilePicker.h"
 #include "tmgmt/ui/FolderPicker.h"
+#include "tmgmt/ui/dropDownList.h"
 #include "tmgmt/ui/messageBox.h"
 
 namespace TMgmt
@@ -78,11 +79,7 @@ void EditHotFolderDlg::fillFormats() noexcept
         SendMessageW(list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry.name));
     }
     SendMessageW(list, CB_SETCURSEL, static_cast<WPARAM>(indexOfFormat(hotFolder.getOutputFormat())), 0);
-    // A closed drop-down list has the height of its field alone; the height that it is given is that of the open one.
-    RECT closed{};
-    GetWindowRect(list, &closed);
-    SetWindowPos(list, nullptr, 0, 0, closed.right - closed.left, 5 * (closed.bottom - closed.top),
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    sizeOpenList(list);
 }
 
 void EditHotFolderDlg::enableStylesheet(bool enabled) noexcept
