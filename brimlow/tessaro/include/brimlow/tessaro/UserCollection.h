@@ -41,6 +41,9 @@ class UserCollection
     void setGuestEnabled(bool enabled);
 
   private:
+    template <class Write, class Apply>
+    void change(Write write, Apply apply);
+
     std::shared_ptr<const Content> m_content;
     // The positions by name, made when a name is first asked for.
     mutable std::unordered_map<Core::String, int> m_positions;
