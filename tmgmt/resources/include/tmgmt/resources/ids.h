@@ -15,6 +15,10 @@
 #define IDD_ACTION 246
 #define IDD_EDIT_BOOL_PROPERTY 248
 #define IDD_EDIT_PRIVATE_FONT 256
+#define IDD_GRANT_ACCESS 269
+#define IDD_RESOURCE_FOLDER 273
+#define IDD_RENAME_RESOURCE_FILE 276
+#define IDD_ADD_RESOURCE_FILE 279
 #define IDD_HOT_FOLDER_SETTINGS 1069
 
 /* menus; 102 is a registry script too, of another type */
@@ -25,6 +29,9 @@
 #define IDM_PRIVATE_FONT 257
 #define IDM_HOT_FOLDERS 258
 #define IDM_HOT_FOLDER 259
+#define IDM_TEMPLATE_USERS 268
+#define IDM_RESOURCE_FOLDER 275
+#define IDM_RESOURCE_FILE 278
 
 /* pictures */
 #define IDB_NODES_SMALL 203
@@ -50,6 +57,10 @@
 #define ID_ADD_PRIVATE_FONT 1042
 #define ID_EDIT_PRIVATE_FONT 1044
 #define ID_HOT_FOLDER_PROPERTIES 1048
+#define ID_GRANT_ACCESS 1057
+#define ID_ADD_RESOURCE_FILE 1064
+#define ID_RENAME_RESOURCE_FOLDER 1065
+#define ID_RENAME_RESOURCE_FILE 1068
 
 /* controls of the property editors */
 #define IDC_PROPERTY_NAME 202
@@ -109,3 +120,12 @@
 #define IDC_ACTION_DELETE 263
 #define IDC_ACTION_MOVE 264
 #define IDC_ACTION_CALL 265
+
+/* controls of the dialogs of resource folders and their files */
+#define IDC_RESOURCE_FILE_NAME 233
+#define IDC_RESOURCE_FOLDER_NAME 280
+#define IDC_RESOURCE_FILE_PATH 281
+#define IDC_RESOURCE_FILE_BROWSE 282
+
+/* controls of the dialog that grants access to an application's templates */
+#define IDC_ACCESS_USERNAME 210

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "brimlow/tessaro/ServerApplication.h"
+#include "tmgmt/frame/Item.h"
+
+namespace TMgmt
+{
+
+// A user who may use the templates of an application.
+class TemplateUserItem : public Item<TemplateUserItem>
+{
+  public:
+    // TemplateResourcesItem has the same one: kept as is, since both are registered so.
+    static constexpr GUID nodeType{0x5fbbcef6, 0x3cac, 0x4472, {0xaa, 0x4d, 0x36, 0xbc, 0xd0, 0xfc, 0x7d, 0xa3}};
+
+    // parent is the node that lists this one. enabled tells whether the user can log on to the server at all.
+    TemplateUserItem(const CSnapInItem& parent, const Tessaro::ServerApplication& application,
+                     const Core::String& username, bool enabled);
+
+    const wchar_t* GetResultPaneColInfo(int column) override;
+    HRESULT OnSelect(bool isScope, bool isSelected, Console& console) override;
+    HRESULT OnDelete(Console& console) override;
+    HRESULT OnViewChange(LPARAM data, LPARAM hint, Console& console) override;
+
+  private:
+    // By its cookie: a row can outlive the tree that it belongs to.
+    MMC_COOKIE m_parent;
+    Tessaro::ServerApplication m_application;
+    Core::String m_username;
+};
+
+} // namespace TMgmt
