@@ -32,4 +32,18 @@ HRESULT expandChildren(CSnapInItem& node, std::span<const Core::SmartPtr<CSnapIn
     return S_OK;
 }
 
+HRESULT replaceChildren(CSnapInItem& node, std::span<const Core::SmartPtr<CSnapInItem>> children, Console& console)
+{
+    SCOPEDATAITEM record{};
+    record.mask = SDI_STATE;
+    record.ID = node.GetScopeData().ID;
+    throwIfFailed(console.nameSpace()->GetItem(&record));
+    if (record.nState & MMC_SCOPE_ITEM_STATE_EXPANDEDONCE)
+    {
+        return expandChildren(node, children, true, record.ID, console);
+    }
+    console.updateScopeItem(node);
+    return S_OK;
+}
+
 } // namespace TMgmt

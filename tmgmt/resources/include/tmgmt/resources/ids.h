@@ -15,22 +15,39 @@
 #define IDD_ACTION 246
 #define IDD_EDIT_BOOL_PROPERTY 248
 #define IDD_EDIT_PRIVATE_FONT 256
+#define IDD_ADD_TEMPLATE 262
 #define IDD_GRANT_ACCESS 269
+#define IDD_EDIT_APPLICATION 271
 #define IDD_RESOURCE_FOLDER 273
 #define IDD_RENAME_RESOURCE_FILE 276
 #define IDD_ADD_RESOURCE_FILE 279
+#define IDD_EDIT_TEMPLATE 281
+#define IDD_CERTIFICATE 282
+#define IDD_WIZARD_REQUEST_OPERATION 288
+#define IDD_WIZARD_TYPE 289
+#define IDD_WIZARD_REQUEST_FILE 290
+#define IDD_SELECT_CERTIFICATE_FILE 291
+#define IDD_ENTER_PASSWORD 292
+#define IDD_WIZARD_CERTIFICATE_FILE 293
+#define IDD_WIZARD_SUBJECT 294
 #define IDD_HOT_FOLDER_SETTINGS 1069
 
 /* menus; 102 is a registry script too, of another type */
 #define IDM_LOG_FILES 102
 #define IDM_PROPERTY 202
+#define IDM_CERTIFICATES 227
+#define IDM_CERTIFICATE 228
 #define IDM_LOG_FILE 252
 #define IDM_PRIVATE_FONTS 255
 #define IDM_PRIVATE_FONT 257
 #define IDM_HOT_FOLDERS 258
 #define IDM_HOT_FOLDER 259
+#define IDM_TEMPLATE 260
+#define IDM_APPLICATION 261
 #define IDM_TEMPLATE_USERS 268
+#define IDM_APPLICATIONS 270
 #define IDM_RESOURCE_FOLDER 275
+#define IDM_RENAME_TEMPLATE 277
 #define IDM_RESOURCE_FILE 278
 
 /* pictures */
@@ -51,15 +68,25 @@
 #define ID_EDIT_PROPERTY 1000
 #define ID_START_SERVICE 1002
 #define ID_STOP_SERVICE 1003
+#define ID_INSTALL_CERTIFICATE 1012
+#define ID_UNINSTALL_CERTIFICATE 1013
+#define ID_CERTIFICATE_PROPERTIES 1015
+#define ID_EXPORT_CERTIFICATE 1017
 #define ID_ADD_HOT_FOLDER 1022
 #define ID_DELETE_ALL_LOGS 1038
 #define ID_OPEN_LOG 1041
 #define ID_ADD_PRIVATE_FONT 1042
 #define ID_EDIT_PRIVATE_FONT 1044
 #define ID_HOT_FOLDER_PROPERTIES 1048
+#define ID_EDIT_TEMPLATE 1052
+#define ID_ADD_TEMPLATE 1053
 #define ID_GRANT_ACCESS 1057
+#define ID_ADD_APPLICATION 1058
+#define ID_ADD_RESOURCE_FOLDER 1060
+#define ID_EDIT_APPLICATION 1062
 #define ID_ADD_RESOURCE_FILE 1064
 #define ID_RENAME_RESOURCE_FOLDER 1065
+#define ID_RENAME_TEMPLATE 1066
 #define ID_RENAME_RESOURCE_FILE 1068
 
 /* controls of the property editors */
@@ -121,6 +148,19 @@
 #define IDC_ACTION_MOVE 264
 #define IDC_ACTION_CALL 265
 
+/* controls of the editor of an application */
+#define IDC_APPLICATION_ENGINE 210
+#define IDC_APPLICATION_NAME 233
+
+/* controls of the dialog that adds a template */
+#define IDC_TEMPLATE_PATH 274
+#define IDC_TEMPLATE_BROWSE 275
+#define IDC_TEMPLATE_ID 285
+
+/* controls of the dialog that renames a template */
+#define IDC_RENAMED_TEMPLATE_ID 232
+#define IDC_TEMPLATE_NAME 284
+
 /* controls of the dialogs of resource folders and their files */
 #define IDC_RESOURCE_FILE_NAME 233
 #define IDC_RESOURCE_FOLDER_NAME 280
@@ -129,3 +169,29 @@
 
 /* controls of the dialog that grants access to an application's templates */
 #define IDC_ACCESS_USERNAME 210
+
+/* controls of the dialog that shows a certificate */
+#define IDC_CERTIFICATE_ISSUER 311
+#define IDC_CERTIFICATE_SUBJECT 312
+#define IDC_CERTIFICATE_SERIAL_NUMBER 313
+
+/* controls of the pages of the certificate wizard */
+#define IDC_PREPARE_REQUEST 295
+#define IDC_PROCESS_ANSWER 296
+#define IDC_WIZARD_BROWSE 298
+#define IDC_WIZARD_FILE 299
+#define IDC_SUBJECT_ORGANIZATION 300
+#define IDC_SUBJECT_UNIT 301
+#define IDC_SUBJECT_COMMON_NAME 302
+#define IDC_SUBJECT_COUNTRY 303
+#define IDC_SUBJECT_CITY 304
+#define IDC_SUBJECT_STATE 305
+#define IDC_SUBJECT_ADDRESS 306
+#define IDC_SUBJECT_ZIP 307
+#define IDC_SUBJECT_EMAIL 308
+#define IDC_SELF_SIGNED 309
+#define IDC_ISSUED_BY_AUTHORITY 310
+
+/* controls of the dialog that asks for a password */
+#define IDC_PASSWORD 314
+#define IDC_PASSWORD_AGAIN 315
