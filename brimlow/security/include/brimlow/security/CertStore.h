@@ -54,18 +54,18 @@ class CertStore : public Core::Object
     // store until importPKCS12 brings the certificate. Throws as createPKCS12 does.
     Core::String createPKCS12Request(const CertificateInfo& info);
 
-    // Stores every certificate of a PKCS #12 file (10 MB at most) whose private key is in the file or waits in the key
-    // store, behind all others, together with the certificates of its issuers that are in the file. Throws when there
-    // is no such certificate, when all are stored already, and when the file is none, is damaged, or would take too
-    // long to decrypt. Throws PasswordException when the password is another one; without one the empty password
-    // is tried.
+    // Stores every certificate of a PKCS #12 file (10 MB at most) whose private key is in the file or in the key store
+    // (one that waits, or that of a certificate to be renewed), behind all others, together with the certificates of
+    // its issuers that are in the file. Throws when there is no such certificate, when all are stored already, and when
+    // the file is none, is damaged, or would take too long to decrypt. Throws PasswordException when the password is
+    // another one; without one the empty password is tried.
     void importPKCS12(const Core::String& fileName);
     void importPKCS12(const Core::String& fileName, const Core::String& password);
 
   private:
     friend class CertIterator;
 
-    const Certificate& listedAt(unsigned index) const;
+    const Certificate& listedAt(unsigned index);
 
     std::vector<SmartPtr<Certificate>> m_listed;
     bool m_read = false;
