@@ -32,9 +32,17 @@ Core::Configuration ServerFile::load() const
 
 void ServerFile::setValue(const Core::String& key, const Core::String& value) const
 {
+    setValues({{key, value}});
+}
+
+void ServerFile::setValues(const std::vector<std::pair<Core::String, Core::String>>& values) const
+{
     const Core::String path = this->path();
     Core::Configuration configuration = loadFrom(path);
-    configuration.setValue(key, value, path);
+    for (const auto& [key, value] : values)
+    {
+        configuration.setValue(key, value, path);
+    }
     configuration.saveTo(path);
 }
 

@@ -14,12 +14,22 @@ constexpr ServerFile file(L"Brimlow\\TSvc.config");
 std::optional<Core::String> readSetting(const Core::String& key)
 {
     Core::String value;
-    return file.load().getValue(key, value) ? std::optional(value) : std::nullopt;
+    return readSettings().getValue(key, value) ? std::optional(value) : std::nullopt;
+}
+
+Core::Configuration readSettings()
+{
+    return file.load();
 }
 
 void writeSetting(const Core::String& key, const Core::String& value)
 {
     file.setValue(key, value);
+}
+
+void writeSettings(const std::vector<std::pair<Core::String, Core::String>>& settings)
+{
+    file.setValues(settings);
 }
 
 void resetSetting(const Core::String& key)

@@ -41,16 +41,17 @@ std::wstring filterText(const std::vector<FileFilter>& filters)
     return text;
 }
 
-} // namespace
+using FileDialog = BOOL(WINAPI*)(LPOPENFILENAMEW);
 
-std::optional<std::wstring> FilePicker::pick(HWND owner, const std::wstring& initialFile) const
+std::optional<std::wstring> ask(FileDialog dialog, const FilePicker& picker, HWND owner,
+                                const std::wstring& initialFile)
 {
     const platform::VisualStyles::Scope scope(moduleStyles());
     const CurrentFolder folder;
-    const std::wstring filter = filterText(filters);
+    const std::wstring filter = filterText(picker.filters);
     // Half a path would be another file's.
-    std::wstring file = initialFile.size() < capacity ? initialFile : std::wstring();
-    file.resize(capacity);
+    std::wstring file = initialFile.size() < picker.capacity ? initialFile : std::wstring();
+    file.resize(picker.capacity);
 
     OPENFILENAMEW request{};
     request.lStructSize = sizeof request;
@@ -58,9 +59,11 @@ std::optional<std::wstring> FilePicker::pick(HWND owner, const std::wstring& ini
     request.lpstrFilter = filter.c_str();
     request.nFilterIndex = 1;
     request.lpstrFile = file.data();
-    request.nMaxFile = capacity;
-    request.Flags = flags;
-    if (GetOpenFileNameW(&request))
+    request.nMaxFile = picker.capacity;
+    request.lpstrTitle = picker.title;
+    request.lpstrDefExt = picker.defaultExtension;
+    request.Flags = picker.flags;
+    if (dialog(&request))
     {
         file.resize(std::wcslen(file.c_str()));
         return file;
@@ -70,17 +73,29 @@ std::optional<std::wstring> FilePicker::pick(HWND owner, const std::wstring& ini
     case 0:
         return std::nullopt;
     case FNERR_INVALIDFILENAME:
-        return initialFile.empty() ? std::nullopt : pick(owner, {});
+        return initialFile.empty() ? std::nullopt : ask(dialog, picker, owner, {});
     case FNERR_BUFFERTOOSMALL:
     {
         const std::wstring message = L"The path of the file is too long. Please choose a file whose path has at most " +
-                                     std::to_wstring(capacity - 1) + L" characters.";
+                                     std::to_wstring(picker.capacity - 1) + L" characters.";
         showMessage(owner, message.c_str(), productCaption, MB_OK | MB_ICONERROR);
         return std::nullopt;
     }
     default:
         throw std::system_error(static_cast<int>(error), std::generic_category(), "A file dialog cannot be shown");
     }
+}
+
+} // namespace
+
+std::optional<std::wstring> FilePicker::pick(HWND owner, const std::wstring& initialFile) const
+{
+    return ask(GetOpenFileNameW, *this, owner, initialFile);
+}
+
+std::optional<std::wstring> FilePicker::pickToSave(HWND owner, const std::wstring& initialFile) const
+{
+    return ask(GetSaveFileNameW, *this, owner, initialFile);
 }
 
 } // namespace TMgmt

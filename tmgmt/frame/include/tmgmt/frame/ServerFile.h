@@ -1,5 +1,8 @@
 #pragma once
 
+#include <utility>
+#include <vector>
+
 #include "brimlow/system/Configuration.h"
 
 namespace TMgmt
@@ -20,8 +23,10 @@ class ServerFile
     // An empty store when the file is not there.
     Core::Configuration load() const;
 
-    // Both make the file when it is not there yet.
+    // All of these make the file when it is not there yet.
     void setValue(const Core::String& key, const Core::String& value) const;
+    // Several keys with their values, in one step.
+    void setValues(const std::vector<std::pair<Core::String, Core::String>>& values) const;
     void deleteValue(const Core::String& key) const;
 
   private:

@@ -1,22 +1,16 @@
 #pragma once
 
-#include <windows.h>
-
-#include <exception>
-#include <string>
+#include "tmgmt/ui/DialogWindow.h"
 
 namespace TMgmt
 {
 
 // One modal dialog made from a resource of this module. A dialog class is its members (filled by the caller before
 // show, read by the caller after it), onInit, and handlers for its buttons.
-class Dialog
+class Dialog : public DialogWindow
 {
   public:
     explicit Dialog(UINT resource) noexcept : m_resource(resource) {}
-    Dialog(const Dialog&) = delete;
-    Dialog& operator=(const Dialog&) = delete;
-    virtual ~Dialog() = default;
 
     // Runs the dialog until it ends and returns the result that it ended with (IDOK, IDCANCEL, or a dialog's own).
     // An exception of a handler closes the dialog and comes out here. Throws std::system_error when the dialog
@@ -31,30 +25,17 @@ class Dialog
     // Takes the controls' contents and ends the dialog, or complains and leaves it open.
     virtual void onOk() { end(IDOK); }
 
-    void end(INT_PTR result) noexcept { EndDialog(m_window, result); }
+    void end(INT_PTR result) noexcept { EndDialog(window(), result); }
 
-    HWND window() const noexcept { return m_window; }
-    HWND item(int control) const noexcept { return GetDlgItem(m_window, control); }
-    std::wstring text(int control) const;
-    void setText(int control, const std::wstring& text) noexcept { SetWindowTextW(item(control), text.c_str()); }
-    bool isChecked(int control) const noexcept { return IsDlgButtonChecked(m_window, control) == BST_CHECKED; }
-    void setChecked(int control, bool checked) noexcept
-    {
-        CheckDlgButton(m_window, control, checked ? BST_CHECKED : BST_UNCHECKED);
-    }
-    // Selects the text of an edit control with it, as the dialog manager does: what is typed replaces it.
-    void setFocus(int control) noexcept;
     // A message box owned by this dialog, titled "Validation Error". icon is MB_ICONERROR or MB_ICONEXCLAMATION.
     void complain(const wchar_t* message, UINT icon) noexcept;
 
   private:
     static INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) noexcept;
-    INT_PTR handle(UINT message, WPARAM wparam);
+    INT_PTR handle(UINT message, WPARAM wparam, LPARAM lparam) override;
+    void abandon() noexcept override { end(IDABORT); }
 
     UINT m_resource;
-    HWND m_window = nullptr;
-    // What a handler threw: it may not cross the system's dialog loop, so it waits here until show rethrows it.
-    std::exception_ptr m_thrown;
 };
 
 } // namespace TMgmt
