@@ -13,10 +13,7 @@ class FontsRestart : public FontsTest
     void SetUp() override
     {
         FontsTest::SetUp();
-        ServerFiles::write(ServerFiles::configuration(),
-                           ServerFiles::configurationWith("    <add key=\"ServerAddress\" value=\"127.0.0.1\"/>\r\n"
-                                                          "    <add key=\"ServerPort\" value=\"" +
-                                                          std::to_string(Service::freePort()) + "\"/>\r\n"));
+        Service::useFreePort();
         store({{L"MapFont:A", L"a"}});
         Service::install();
     }

@@ -17,10 +17,7 @@ class RealService : public ConsoleTest
     void SetUp() override
     {
         ConsoleTest::SetUp();
-        ServerFiles::write(ServerFiles::configuration(),
-                           ServerFiles::configurationWith("    <add key=\"ServerAddress\" value=\"127.0.0.1\"/>\r\n"
-                                                          "    <add key=\"ServerPort\" value=\"" +
-                                                          std::to_string(Service::freePort()) + "\"/>\r\n"));
+        Service::useFreePort();
     }
 
     static HRESULT run(long command)

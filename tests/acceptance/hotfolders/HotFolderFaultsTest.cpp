@@ -1,8 +1,8 @@
 #include "hotfolders/HotFoldersTest.h"
+#include "kit/DatabaseLock.h"
 #include "kit/ImportSpy.h"
 
 #include <gmock/gmock.h>
-#include <sqlite3.h>
 
 namespace Acceptance
 {
@@ -20,26 +20,6 @@ class HotFolderFaults : public HotFoldersTest
         HotFoldersTest::SetUp();
         storeAll({L"Invoices"});
     }
-
-    // Another program is in the middle of a change.
-    class Lock
-    {
-      public:
-        Lock()
-        {
-            if (sqlite3_open16(database().c_str(), &m_database) != SQLITE_OK ||
-                sqlite3_exec(m_database, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr) != SQLITE_OK)
-            {
-                throw std::runtime_error("the database cannot be locked");
-            }
-        }
-        Lock(const Lock&) = delete;
-        Lock& operator=(const Lock&) = delete;
-        ~Lock() { sqlite3_close(m_database); }
-
-      private:
-        sqlite3* m_database = nullptr;
-    };
 
     static std::wstring inUse()
     {
@@ -61,7 +41,7 @@ TEST_F(HotFolderFaults, aLockedDatabaseIsReportedAndListedAsEmpty)
 {
     open();
     {
-        const Lock lock;
+        const DatabaseLock lock(database());
         error(inUse());
         view().select(node);
         EXPECT_TRUE(view().rows().empty());
@@ -75,7 +55,7 @@ TEST_F(HotFolderFaults, anEditOfALockedDatabaseIsReported)
 {
     openNode();
     {
-        const Lock lock;
+        const DatabaseLock lock(database());
         typePattern(L"*.xml");
         error(inUse());
         view().doubleClick(L"Invoices");
@@ -87,7 +67,7 @@ TEST_F(HotFolderFaults, aDeletionThatIsRefusedIsReportedByTheConsolesEdge)
 {
     openNode();
     {
-        const Lock lock;
+        const DatabaseLock lock(database());
         robot.message({.text = inUse(), .caption = L"KV Tessaro 2010", .icon = MB_ICONERROR});
         view().pressDelete(L"Invoices");
     }

@@ -68,10 +68,7 @@ std::filesystem::path HotFoldersTest::database()
 
 void HotFoldersTest::startService()
 {
-    ServerFiles::write(ServerFiles::configuration(),
-                       ServerFiles::configurationWith("    <add key=\"ServerAddress\" value=\"127.0.0.1\"/>\r\n"
-                                                      "    <add key=\"ServerPort\" value=\"" +
-                                                      std::to_string(Service::freePort()) + "\"/>\r\n"));
+    Service::useFreePort();
     Service::install();
     Service::start();
 }

@@ -243,4 +243,12 @@ unsigned short freePort()
     return ntohs(address.sin_port);
 }
 
+void useFreePort()
+{
+    ServerFiles::write(ServerFiles::configuration(),
+                       ServerFiles::configurationWith("    <add key=\"ServerAddress\" value=\"127.0.0.1\"/>\r\n"
+                                                      "    <add key=\"ServerPort\" value=\"" +
+                                                      std::to_string(freePort()) + "\"/>\r\n"));
+}
+
 } // namespace Acceptance::Service

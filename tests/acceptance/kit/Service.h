@@ -35,5 +35,7 @@ void end();
 bool answersOn(unsigned short port);
 // A port that nobody uses now.
 unsigned short freePort();
+// Replaces the server's configuration: the service shall listen on such a port of this machine.
+void useFreePort();
 
 } // namespace Acceptance::Service

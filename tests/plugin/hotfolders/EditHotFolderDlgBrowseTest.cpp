@@ -1,14 +1,14 @@
 #include "hotfolders/EditHotFolderDlgTestBase.h"
 
+#include "FileChooserSpy.h"
 #include "kit/FileDialog.h"
-
-#include <commdlg.h>
 
 #include <array>
 
 namespace
 {
 
+using Acceptance::FileChooserSpy;
 using Acceptance::FileDialog;
 using Acceptance::Owner;
 using HotFolders::Action;
@@ -18,43 +18,6 @@ using HotFolders::ActionType;
 constexpr wchar_t actionsCaption[] = L"Actions";
 constexpr wchar_t actionCaption[] = L"Edit Action";
 constexpr wchar_t settingsCaption[] = L"Settings";
-
-// What the system's dialog for a file is asked for.
-struct FileRequest
-{
-    std::wstring filter; // with its nulls as |
-    std::wstring file;
-    DWORD capacity;
-    DWORD flags;
-    HWND owner;
-};
-
-class FileChooserSpy
-{
-  public:
-    const std::vector<FileRequest>& requests() const { return m_requests; }
-
-  private:
-    static std::wstring filterOf(const wchar_t* text)
-    {
-        std::wstring filter;
-        for (; *text; text += wcslen(text) + 1)
-        {
-            filter.append(text).append(1, L'|');
-        }
-        return filter;
-    }
-
-    std::vector<FileRequest> m_requests;
-    Acceptance::ImportSpy<"GetOpenFileNameW", decltype(GetOpenFileNameW)> m_spy{
-        [this](LPOPENFILENAMEW request)
-        {
-            m_requests.push_back({filterOf(request->lpstrFilter), request->lpstrFile, request->nMaxFile, request->Flags,
-                                  request->hwndOwner});
-            return m_spy.callThrough(request);
-        },
-        nullptr};
-};
 
 class EditHotFolderDlgBrowseTest : public EditHotFolderDlgTestBase
 {
@@ -183,7 +146,7 @@ TEST_F(EditHotFolderDlgBrowseTest, takesAChosenStylesheetAtOnce)
     EXPECT_EQ(dialog.show(frame()), IDCANCEL);
     EXPECT_EQ(dialog.hotFolder.getFolderXslTemplate(), chosen);
     ASSERT_EQ(spy.requests().size(), 1U);
-    const FileRequest& request = spy.requests()[0];
+    const FileChooserSpy::Request& request = spy.requests()[0];
     EXPECT_EQ(request.file, former);
     EXPECT_EQ(request.capacity, 2048U);
     EXPECT_EQ(request.flags, 0U);

@@ -2,8 +2,8 @@
 
 #include "DialogTestBase.h"
 
+#include "dialogContents.h"
 #include "hotfolders/FolderChooserSpy.h"
-#include "hotfolders/dialogContents.h"
 #include "kit/FolderDialog.h"
 #include "kit/ModalWindow.h"
 #include "kit/windows.h"

@@ -1,4 +1,4 @@
-#include "hotfolders/dialogContents.h"
+#include "dialogContents.h"
 
 #include "kit/windows.h"
 
@@ -29,6 +29,22 @@ std::vector<int> tabOrderOf(HWND dialog)
         ids.push_back(GetDlgCtrlID(control));
     }
     return ids;
+}
+
+SIZE openSizeOf(HWND list)
+{
+    RECT closed{};
+    GetWindowRect(list, &closed);
+    SendMessageW(list, CB_SHOWDROPDOWN, TRUE, 0);
+    COMBOBOXINFO info{};
+    info.cbSize = sizeof info;
+    RECT open{};
+    if (GetComboBoxInfo(list, &info))
+    {
+        GetWindowRect(info.hwndList, &open);
+    }
+    SendMessageW(list, CB_SHOWDROPDOWN, FALSE, 0);
+    return {open.right - open.left, open.bottom - closed.top};
 }
 
 } // namespace Acceptance
