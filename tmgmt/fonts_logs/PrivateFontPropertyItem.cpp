@@ -2,20 +2,12 @@
 
 #include "tmgmt/fonts_logs/AddPrivateFontDlg.h"
 #include "tmgmt/fonts_logs/PrivateFontsFile.h"
+#include "tmgmt/frame/yesOrNo.h"
 #include "tmgmt/settings/RestartPreference.h"
 #include "tmgmt/snapin/ItemAccess.h"
 
 namespace TMgmt
 {
-namespace
-{
-
-const wchar_t* yesOrNo(bool value) noexcept
-{
-    return value ? L"Yes" : L"No";
-}
-
-} // namespace
 
 PrivateFontPropertyItem::PrivateFontPropertyItem(const CSnapInItem& parent, PrivateFont font)
     : Item(ResultNode{.displayName = L"Private Font Item", .image = 4}),

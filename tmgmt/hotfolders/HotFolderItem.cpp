@@ -2,6 +2,7 @@
 
 #include "brimlow/hotfolder/HotFolderCollection.h"
 #include "tmgmt/frame/reportRefusal.h"
+#include "tmgmt/frame/yesOrNo.h"
 #include "tmgmt/hotfolders/EditHotFolderDlg.h"
 #include "tmgmt/settings/RestartPreference.h"
 #include "tmgmt/snapin/ItemAccess.h"
@@ -28,7 +29,7 @@ const wchar_t* HotFolderItem::GetResultPaneColInfo(int column)
     case 2:
         return m_hotFolder.getFileMatchPattern().c_str();
     case 3:
-        return m_hotFolder.isMonitoringEnabled() ? L"Yes" : L"No";
+        return yesOrNo(m_hotFolder.isMonitoringEnabled());
     default:
         return L"";
     }

@@ -1,5 +1,6 @@
 #include "tmgmt/settings/PropertyItem.h"
 
+#include "tmgmt/frame/yesOrNo.h"
 #include "tmgmt/settings/ConfigurationStore.h"
 #include "tmgmt/settings/EditBoolPropertyDlg.h"
 #include "tmgmt/settings/EditEnumPropertyDlg.h"
@@ -137,7 +138,7 @@ const wchar_t* PropertyItem::GetResultPaneColInfo(int column)
     case PropertyColumn::value:
         return m_shown.value.c_str();
     case PropertyColumn::isDefault:
-        return m_isDefault ? L"Yes" : L"No";
+        return yesOrNo(m_isDefault);
     case PropertyColumn::description:
         return m_description;
     case PropertyColumn::defaultValue:

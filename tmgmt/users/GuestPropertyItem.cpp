@@ -1,0 +1,33 @@
+#include "tmgmt/users/GuestPropertyItem.h"
+
+#include "brimlow/tessaro/UserCollection.h"
+#include "tmgmt/frame/reportRefusal.h"
+#include "tmgmt/users/EditUserDlg.h"
+
+namespace TMgmt
+{
+
+HRESULT GuestPropertyItem::edit(Console& console)
+{
+    EditUserDlg dialog(isEnabled());
+    if (dialog.show(GetActiveWindow()) != IDOK)
+    {
+        return S_OK;
+    }
+    // The row shows what was chosen from now on, even when it cannot be stored: kept as is.
+    setAccount(displayName().c_str(), dialog.guestEnabled);
+    try
+    {
+        Tessaro::UserCollection().setGuestEnabled(isEnabled());
+    }
+    catch (const Core::Exception& exception)
+    {
+        reportRefusal(exception);
+        return S_OK;
+    }
+    console.updateAllViews(*this, CCT_RESULT);
+    refreshUsers(console);
+    return S_OK;
+}
+
+} // namespace TMgmt

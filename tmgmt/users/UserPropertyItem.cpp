@@ -1,0 +1,66 @@
+#include "tmgmt/users/UserPropertyItem.h"
+
+#include "brimlow/tessaro/UserCollection.h"
+#include "tmgmt/frame/reportRefusal.h"
+#include "tmgmt/users/EditUserDlg.h"
+#include "tmgmt/users/accessLists.h"
+
+namespace TMgmt
+{
+
+UserPropertyItem::UserPropertyItem(const CSnapInItem& parent, const Tessaro::User& user)
+    : AccountItem(parent, user.getUsername().c_str(), user.isEnabled()), m_user(user)
+{
+}
+
+HRESULT UserPropertyItem::OnSelect(bool, bool isSelected, Console& console)
+{
+    return enableVerb(MMC_VERB_DELETE, isSelected, console);
+}
+
+HRESULT UserPropertyItem::OnDelete(Console& console)
+{
+    bool deleted = false;
+    try
+    {
+        Tessaro::UserCollection().deleteUser(m_user);
+        deleted = true;
+        removeFromAccessLists(m_user.getUsername());
+    }
+    catch (const Core::Exception& exception)
+    {
+        reportRefusal(exception);
+    }
+    // Where access lists cannot be rewritten the account is gone all the same.
+    if (deleted)
+    {
+        refreshUsers(console);
+    }
+    return S_OK;
+}
+
+HRESULT UserPropertyItem::edit(Console& console)
+{
+    EditUserDlg dialog(m_user);
+    if (dialog.show(GetActiveWindow()) != IDOK)
+    {
+        return S_OK;
+    }
+    // The row shows what was entered from now on, even when it cannot be stored: kept as is.
+    m_user = dialog.user;
+    setAccount(m_user.getUsername().c_str(), m_user.isEnabled());
+    try
+    {
+        Tessaro::UserCollection().updateUser(m_user);
+    }
+    catch (const Core::Exception& exception)
+    {
+        reportRefusal(exception);
+        return S_OK;
+    }
+    console.updateAllViews(*this, CCT_RESULT);
+    refreshUsers(console);
+    return S_OK;
+}
+
+} // namespace TMgmt

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "tmgmt/frame/Item.h"
+#include "tmgmt/frame/yesOrNo.h"
+#include "tmgmt/snapin/ItemAccess.h"
+
+namespace TMgmt
+{
+
+// One row of "Users": an account that is enabled or not, and is edited by its command or by a double-click. T is the
+// node's class.
+template <class T>
+class AccountItem : public Item<T>
+{
+  public:
+    static constexpr UINT menu = IDM_USER;
+
+    const wchar_t* GetResultPaneColInfo(int column) override
+    {
+        switch (column)
+        {
+        case 0:
+            return this->displayName().c_str();
+        case 1:
+            return yesOrNo(m_enabled);
+        default:
+            return L"";
+        }
+    }
+
+    HRESULT Command(long command, Console& console, DATA_OBJECT_TYPES type) override
+    {
+        return command == ID_EDIT_USER ? edit(console) : Item<T>::Command(command, console, type);
+    }
+
+    HRESULT OnDblClick(Console& console) override { return edit(console); }
+
+    HRESULT OnViewChange(LPARAM, LPARAM, Console& console) override
+    {
+        console.updateRow(*this);
+        return S_OK;
+    }
+
+  protected:
+    // parent is the node that lists this one.
+    AccountItem(const CSnapInItem& parent, const wchar_t* name, bool enabled)
+        : Item<T>(ResultNode{.displayName = name, .image = enabled ? 17 : 23}),
+          m_parent(parent.cookie()),
+          m_enabled(enabled)
+    {
+    }
+
+    virtual HRESULT edit(Console& console) = 0;
+
+    // What the columns show from now on. The picture stays until the list is read anew.
+    void setAccount(const wchar_t* name, bool enabled)
+    {
+        this->setDisplayName(name);
+        m_enabled = enabled;
+    }
+    bool isEnabled() const noexcept { return m_enabled; }
+
+    // Goes to "Users" and reads its list anew, which lets this row go; the caller holds it.
+    void refreshUsers(Console& console)
+    {
+        const Core::SmartPtr<CSnapInItem> users = itemOfCookie(m_parent);
+        console.selectScopeItem(users->GetScopeData().ID);
+        console.refreshResultList(*users);
+    }
+
+  private:
+    MMC_COOKIE m_parent;
+    bool m_enabled;
+};
+
+} // namespace TMgmt
