@@ -19,9 +19,9 @@ if [ ! -e "$data" ]; then
   echo 'Putting in sample data'
   cp -r tools/sample-data/Brimlow "$data"
 fi
-if [ ! -e "$data/Data/HotFolders.db" ]; then
-  echo 'Putting in sample hot folders'
-  wine out/windows-x64/SampleData.exe
+if [ ! -e "$data/Data/HotFolders.db" ] || [ ! -e "$data/Data/Tessaro.db" ] || [ ! -e "$data/KeyStore/KeyStore.p12" ]; then
+  echo 'Putting in sample hot folders, users, applications and a certificate'
+  wine out/windows-x64/SampleData.exe "$(windows_path tools/sample-data/files)"
 fi
 
 echo 'Registering the plug-in, starting the stand-in service'

@@ -1,5 +1,6 @@
 """What lies on the disk while Bench.exe measures, made outside Wine, where thousands of files take no time."""
 
+import contextlib
 import os
 import shutil
 import sqlite3
@@ -27,7 +28,8 @@ class Fixtures:
         return folder
 
     def make(self, name, number):
-        makers = {'nothing': self.nothing, 'logs': self.logs, 'fonts': self.fonts, 'hot-folders': self.hot_folders}
+        makers = {'nothing': self.nothing, 'logs': self.logs, 'fonts': self.fonts, 'hot-folders': self.hot_folders,
+                  'applications': self.applications, 'users': self.users, 'keep': self.keep, 'kept': self.kept}
         makers[name](number)
 
     def nothing(self, _):
@@ -57,16 +59,61 @@ class Fixtures:
         for index in range(number):
             os.makedirs(os.path.join(self.folder, 'hot', str(index)), exist_ok=True)
         os.makedirs(os.path.join(self.folder, 'out'), exist_ok=True)
-        database = sqlite3.connect(os.path.join(self.maker, 'Data', 'HotFolders.db'))
+        with self.database('HotFolders.db') as database:
+            self.copy_first(database, 'hot_folder',
+                            {'identity': 'randomblob(16)', 'folder': '?2', 'folder_key': 'upper(?2)'},
+                            ((index + 1, f'C:\\bench\\hot\\{index}') for index in range(number)))
+
+    def users(self, number):
+        """So many users, copies of the first one."""
+        with self.database('Tessaro.db') as database:
+            self.copy_first(database, 'user', {'username': '?2'},
+                            ((index + 1, f'user{index}') for index in range(number)))
+
+    def applications(self, number):
+        """So many applications, copies of the first one. The one in the middle has files, too."""
+        with self.database('Tessaro.db') as database:
+            self.copy_first(database, 'application',
+                            {'identity': 'randomblob(16)', 'name': '?2', 'name_key': 'upper(?2)'},
+                            ((index + 1, f'Application {index}') for index in range(number)))
+            for table in ('template', 'resource_folder', 'access'):
+                database.execute(f'DELETE FROM {table} WHERE application > 1')
+                columns = [row[1] for row in database.execute(f'PRAGMA table_info({table})')]
+                copied = ', '.join(column for column in columns if column not in ('id', 'identity', 'application'))
+                database.executemany(f'INSERT INTO {table} (application, {copied}) '
+                                     f'SELECT ?1, {copied} FROM {table} WHERE application = 1',
+                                     ((index + 1,) for index in range(1, number)))
+        root = os.path.join(self.maker, 'ServerTemplates')
+        middle = os.path.join(root, f'Application {number // 2}')
+        if number > 1:
+            shutil.rmtree(middle, ignore_errors=True)
+            shutil.copytree(os.path.join(root, 'Application 0'), middle)
+
+    def keep(self, _):
+        """Keeps a copy of the key store, which 'kept' puts back."""
+        shutil.copytree(os.path.join(self.maker, 'KeyStore'), os.path.join(self.memory, 'kept'), dirs_exist_ok=True)
+
+    def kept(self, _):
+        shutil.copytree(os.path.join(self.memory, 'kept'), os.path.join(self.maker, 'KeyStore'), dirs_exist_ok=True)
+
+    @contextlib.contextmanager
+    def database(self, name):
+        """A database of the libraries; what is done to it takes effect together."""
+        database = sqlite3.connect(os.path.join(self.maker, 'Data', name))
         with database:
-            database.execute('DELETE FROM hot_folder WHERE id > (SELECT min(id) FROM hot_folder)')
-            columns = [row[1] for row in database.execute('PRAGMA table_info(hot_folder)')]
-            made = {'id': '?1', 'identity': 'randomblob(16)', 'folder': '?2', 'folder_key': 'upper(?2)'}
-            database.executemany(
-                f'INSERT OR REPLACE INTO hot_folder ({", ".join(columns)}) '
-                f'SELECT {", ".join(made.get(column, column) for column in columns)} FROM hot_folder LIMIT 1',
-                ((index + 1, f'C:\\bench\\hot\\{index}') for index in range(number)))
+            yield database
         database.close()
+
+    @staticmethod
+    def copy_first(database, table, changed, values):
+        """Makes the table hold copies of its first row, one for each of the values. The first of the values (?1) is
+        the id, changed says what else differs."""
+        database.execute(f'DELETE FROM {table} WHERE id > (SELECT min(id) FROM {table})')
+        columns = [row[1] for row in database.execute(f'PRAGMA table_info({table})')]
+        made = {'id': '?1'} | changed
+        database.executemany(
+            f'INSERT OR REPLACE INTO {table} ({", ".join(columns)}) '
+            f'SELECT {", ".join(made.get(column, column) for column in columns)} FROM {table} LIMIT 1', values)
 
     def configuration(self, name, entries):
         path = os.path.join(self.maker, name)

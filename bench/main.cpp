@@ -13,10 +13,15 @@ namespace
 
 const std::map<std::wstring, Bench::Subject> subjects{
     {L"loading", Bench::loading},
+    {L"loading-applications", Bench::loadingApplications},
     {L"loading-hot-folders", Bench::loadingHotFolders},
+    {L"applications", Bench::applications},
+    {L"certificates", Bench::certificates},
     {L"hot-folders", Bench::hotFolders},
     {L"log-files", Bench::logFiles},
     {L"private-fonts", Bench::privateFonts},
+    {L"users", Bench::users},
+    {L"users-of-applications", Bench::usersOfApplications},
 };
 
 int measure(const std::wstring& name, std::size_t size, std::size_t repetitions)

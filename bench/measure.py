@@ -13,6 +13,11 @@ from table import Figure, table
 SUBJECTS = {
     'loading': [0, 1000, 10000, 100000],
     'loading-hot-folders': [100, 1000, 10000],
+    'loading-applications': [100, 1000],
+    'applications': [100, 1000],
+    'users': [100, 1000, 10000],
+    'users-of-applications': [10, 100, 1000],
+    'certificates': [10, 100, 1000],
     'hot-folders': [100, 1000, 10000],
     'log-files': [1000, 10000, 100000],
     'private-fonts': [1000, 10000],

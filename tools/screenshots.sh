@@ -30,10 +30,15 @@ rm -f "$target"/*.png
 listener='Engine Settings\Listener Configuration'
 encoder='Engine Settings\AFP Encoder'
 fonts='Engine Settings\Private Fonts'
+templates='Server Templates'
+invoices="$templates\\Invoices"
 picture root
 picture about --select 'About KV Tessaro'
 picture hot-folders --select 'Hot Folders'
 picture server-templates --select 'Server Templates'
+picture application --select "$invoices"
+picture application-users --select "$invoices\\Users"
+picture resource-folder --select "$invoices\\Images"
 picture users --select 'Users'
 picture server-certificates --select 'Server Certificates'
 picture engine-settings --select 'Engine Settings'
@@ -52,5 +57,17 @@ picture dialog-add-hot-folder --select 'Hot Folders' --command 1022
 picture dialog-actions --select 'Hot Folders' --row Invoices --command 1048 --press 246
 picture dialog-edit-action --select 'Hot Folders' --row Invoices --command 1048 --press 246 --press 261
 picture dialog-hot-folder-settings --select 'Hot Folders' --row Invoices --command 1048 --press 287
+picture dialog-add-application --select "$templates" --command 1058
+picture dialog-edit-application --select "$invoices" --command 1062
+picture dialog-add-template --select "$invoices" --command 1053
+picture dialog-edit-template --select "$invoices" --row invoice.kvd --command 1052
+picture dialog-add-resource-folder --select "$invoices" --command 1060
+picture dialog-rename-resource-folder --select "$invoices\\Images" --command 1065
+picture dialog-add-resource-file --select "$invoices\\Images" --command 1064
+picture dialog-edit-resource-file --select "$invoices\\Images" --row logo.svg --command 1068
+picture dialog-grant-access --select "$invoices\\Users" --command 1057
+picture dialog-add-user --select 'Users' --command 1054
+picture dialog-edit-user --select 'Users' --row m_keller --command 1055
+picture dialog-edit-guest --select 'Users' --row Guest --command 1055
 picture dialog-edit-log-level --select 'Log' --row 'Log Level' --command 1000
 [ -z "$own_display" ] || stop_wine

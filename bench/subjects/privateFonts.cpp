@@ -1,14 +1,9 @@
-#include "DialogAnswer.h"
 #include "Fixtures.h"
-#include "List.h"
-#include "Report.h"
-#include "floor/floorDialog.h"
+#include "ListBench.h"
 #include "kit/ServerFiles.h"
 #include "subjects/subjects.h"
 
 #include <brimlow/system/Configuration.h>
-
-#include <optional>
 
 namespace Bench
 {
@@ -62,81 +57,38 @@ void deleteMapping(const wchar_t* key)
 void privateFonts(std::size_t size, std::size_t repetitions)
 {
     Fixtures::make("fonts", size);
-    FloorNode floor{.name = L"Floor",
-                    .children = {{.name = L"Private Fonts",
-                                  .columns = {L"Font Family Name", L"Font File Path", L"Is Bold", L"Is Italic"},
-                                  .read = mappings,
-                                  .change = {}}}};
-    std::function<void()>& change = floor.children.front().change;
-    Stage stage(floor);
-    List plugIn(stage, stage.plugIn(), {L"Engine Settings", L"Private Fonts"});
-    List lowest(stage, stage.floor(), {L"Private Fonts"});
+    ListBench bench("Private Fonts",
+                    {.name = L"Private Fonts",
+                     .columns = {L"Font Family Name", L"Font File Path", L"Is Bold", L"Is Italic"},
+                     .read = mappings},
+                    {L"Engine Settings", L"Private Fonts"}, size, size, repetitions,
+                    [size] { Fixtures::make("fonts", size); });
+    bench.show();
+    bench.readTexts();
 
-    const auto leave = [&] { stage.leave(); };
-    const auto show = [](List& list) { return [&list] { list.show(); }; };
-    const auto expect = [&](std::size_t rows)
-    {
-        return [&, rows]
-        {
-            plugIn.expectRows(rows);
-            Fixtures::make("fonts", size);
-        };
-    };
-    compare("Private Fonts: show", size, repetitions, {.act = show(plugIn), .before = leave, .after = expect(size)},
-            {.act = show(lowest), .before = leave, .after = expect(size)});
-    compare("Private Fonts: read every text", size, repetitions,
-            {.act = [&] { plugIn.readTexts(); }, .before = show(plugIn), .after = expect(size)},
-            {.act = [&] { lowest.readTexts(); }, .before = show(lowest), .after = expect(size)});
+    const std::map<int, std::wstring> entered{{nameEdit, L"Bench"}, {fileEdit, L"C:\\Windows\\Fonts\\new.ttf"}};
+    bench.change({.what = "add one",
+                  .command = [](List& list) { list.runCommand(L"&Add Private Font..."); },
+                  .least = [] { setMapping(L"MapFont:BENCH"); },
+                  .rows = size + 1,
+                  .entered = entered});
 
-    std::optional<DialogAnswer> answer;
-    const auto showAndAwait = [&](List& list)
-    {
-        return [&]
-        {
-            list.show();
-            list.select(list.middle());
-            stage.frame().activate();
-            answer.reset();
-            answer.emplace(
-                std::map<int, std::wstring>{{nameEdit, L"Bench"}, {fileEdit, L"C:\\Windows\\Fonts\\new.ttf"}});
-        };
-    };
-
-    change = []
-    {
-        showFloorDialog();
-        setMapping(L"MapFont:BENCH");
-    };
-    compare("Private Fonts: add one", size, repetitions,
-            {.act = [&] { plugIn.runCommand(L"&Add Private Font..."); },
-             .before = showAndAwait(plugIn),
-             .after = expect(size + 1)},
-            {.act = [&] { lowest.refresh(); }, .before = showAndAwait(lowest), .after = expect(size + 1)});
-
-    plugIn.show();
-    const std::wstring key = L"MapFont:" + plugIn.text(plugIn.middle(), 0);
-    change = [&]
-    {
-        showFloorDialog();
-        deleteMapping(key.c_str());
-        setMapping(L"MapFont:BENCH");
-    };
-    compare("Private Fonts: edit one", size, repetitions,
-            {.act = [&] { plugIn.open(plugIn.middle()); }, .before = showAndAwait(plugIn), .after = expect(size)},
-            {.act = [&] { lowest.refresh(); }, .before = showAndAwait(lowest), .after = expect(size)});
-
-    answer.reset();
-    change = [&] { deleteMapping(key.c_str()); };
-    compare("Private Fonts: delete one", size, repetitions,
-            {.act = [&] { plugIn.deleteSelected(); },
-             .before =
-                 [&]
-             {
-                 plugIn.show();
-                 plugIn.select(plugIn.middle());
-             },
-             .after = expect(size - 1)},
-            {.act = [&] { lowest.refresh(); }, .before = show(lowest), .after = expect(size - 1)});
+    bench.plugIn().show();
+    const std::wstring key = L"MapFont:" + bench.plugIn().text(bench.plugIn().middle(), 0);
+    bench.change({.what = "edit one",
+                  .command = [](List& list) { list.open(list.middle()); },
+                  .least =
+                      [&]
+                  {
+                      deleteMapping(key.c_str());
+                      setMapping(L"MapFont:BENCH");
+                  },
+                  .rows = size,
+                  .entered = entered});
+    bench.change({.what = "delete one",
+                  .command = [](List& list) { list.deleteSelected(); },
+                  .least = [&] { deleteMapping(key.c_str()); },
+                  .rows = size - 1});
 }
 
 } // namespace Bench

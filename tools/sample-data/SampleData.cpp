@@ -1,104 +1,15 @@
-// SampleData: three hot folders to look at, with their folders. Adds nothing where there are hot folders already.
-// SampleData N: N hot folders to measure with, in one transaction. Their folders are not made.
+// SampleData FOLDER: something of everything to look at; the files of templates come from that folder.
+// SampleData --hot-folders N: N hot folders to measure with.
 
-#include "HotFolderStore.h"
-#include "HotFolderTable.h"
+#include "sampleData.h"
 
-#include "brimlow/database/Transaction.h"
-#include "brimlow/hotfolder/HotFolderCollection.h"
-#include "brimlow/system/Exception.h"
-#include "brimlow/system/FileSystem.h"
 #include "brimlow/system/Format.h"
 
 #include <cstdio>
 #include <exception>
-#include <filesystem>
-#include <string>
 
 namespace
 {
-
-using HotFolders::Action;
-using HotFolders::ActionType;
-using HotFolders::HotFolder;
-using Tessaro::OutputFormat;
-
-HotFolder hotFolder(const Core::String& name, const wchar_t* pattern, OutputFormat format)
-{
-    HotFolder result;
-    result.setFolder(L"C:\\HotFolders\\" + name);
-    result.setOutputFolder(L"C:\\Rendered\\" + name);
-    result.setFileMatchPattern(pattern);
-    result.setOutputFormat(format);
-    return result;
-}
-
-Action moveTo(const Core::String& folder)
-{
-    Action action;
-    action.setType(ActionType::MoveInputFile);
-    action.setDestinationPath(folder);
-    return action;
-}
-
-Action call(const wchar_t* url)
-{
-    Action action;
-    action.setType(ActionType::CallWebService);
-    action.setHttpUrl(url);
-    return action;
-}
-
-Action deleteInput()
-{
-    Action action;
-    action.setType(ActionType::DeleteInputFile);
-    return action;
-}
-
-void add(const HotFolder& folder)
-{
-    for (const Core::String& path : {folder.getFolder(), folder.getOutputFolder()})
-    {
-        std::filesystem::create_directories(path.str());
-    }
-    HotFolders::HotFolderCollection().addNewFolder(folder);
-}
-
-void addThree()
-{
-    if (HotFolders::HotFolderCollection().getCount() > 0)
-    {
-        return;
-    }
-    HotFolder invoices = hotFolder(L"Invoices", L"*.xml", OutputFormat::Pdf);
-    invoices.setOnSuccessActionList({call(L"http://localhost:8080/archive?file={OutputFile}"), deleteInput()});
-    invoices.setOnFailureActionList({moveTo(L"C:\\Failed\\Invoices")});
-    add(invoices);
-
-    HotFolder labels = hotFolder(L"Labels", L"*.fo", OutputFormat::Png);
-    labels.setPageIndex(1);
-    labels.setOnSuccessActionList({moveTo(L"C:\\Done\\Labels")});
-    add(labels);
-
-    HotFolder statements = hotFolder(L"Statements", L"*.*", OutputFormat::Afp);
-    statements.setEnableMonitoring(false);
-    add(statements);
-}
-
-void addMany(int count)
-{
-    using HotFolders::HotFolderStore;
-    Database::Connection connection = Database::Connection::openOrCreate(HotFolderStore::machineDatabase());
-    Database::Transaction transaction(connection, Database::Transaction::Kind::write);
-    for (int number = 0; number < count; ++number)
-    {
-        HotFolder folder = hotFolder(L"Folder " + Core::String(std::to_wstring(number)), L"*.xml", OutputFormat::Pdf);
-        folder.setOnSuccessActionList({moveTo(L"C:\\Done"), call(L"http://localhost:8080/archive")});
-        HotFolders::HotFolderTable::add(connection, folder);
-    }
-    transaction.commit();
-}
 
 int fail(const char* message)
 {
@@ -116,18 +27,23 @@ int main(int argumentCount, char** arguments)
 {
     try
     {
+        const auto argument = [&](int index) { return std::filesystem::path(arguments[index]); };
         int count = 0;
-        if (argumentCount == 1)
+        if (argumentCount == 2)
         {
-            addThree();
+            SampleData::addHotFolders();
+            SampleData::addUsers();
+            SampleData::addApplications(argument(1));
+            SampleData::addCertificate();
         }
-        else if (argumentCount == 2 && Core::Format::parseInt(std::filesystem::path(arguments[1]).wstring(), count))
+        else if (argumentCount == 3 && argument(1) == "--hot-folders" &&
+                 Core::Format::parseInt(argument(2).wstring(), count))
         {
-            addMany(count);
+            SampleData::addManyHotFolders(count);
         }
         else
         {
-            return fail("SampleData [NUMBER OF HOT FOLDERS]");
+            return fail("SampleData FOLDER | SampleData --hot-folders NUMBER");
         }
         return 0;
     }

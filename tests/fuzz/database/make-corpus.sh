@@ -7,7 +7,7 @@ cd "$(dirname "$0")/corpus"
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-PROGRAMDATA=$work "$sample" 3
+PROGRAMDATA=$work "$sample" --hot-folders 3
 usual=$work/Brimlow/Data/HotFolders.db
 rm -f ./*.db
 
