@@ -1,7 +1,5 @@
 #include "tmgmt/users/AddUserDlg.h"
 
-#include "brimlow/tessaro/UserCollection.h"
-#include "tmgmt/frame/reportRefusal.h"
 #include "tmgmt/resources/ids.h"
 #include "tmgmt/ui/SecretText.h"
 #include "tmgmt/ui/WaitCursor.h"
@@ -10,7 +8,7 @@
 namespace TMgmt
 {
 
-AddUserDlg::AddUserDlg() : Dialog(IDD_ADD_USER)
+AddUserDlg::AddUserDlg() : UserDlg(IDD_ADD_USER, {})
 {
     user.setEnable(true);
 }
@@ -23,29 +21,11 @@ bool AddUserDlg::onInit()
     return true;
 }
 
-void AddUserDlg::onOk()
-{
-    try
-    {
-        if (const wchar_t* const fault = store())
-        {
-            complain(fault, MB_ICONERROR);
-            return;
-        }
-    }
-    catch (const Core::Exception& exception)
-    {
-        reportRefusal(exception);
-        return;
-    }
-    end(IDOK);
-}
-
 const wchar_t* AddUserDlg::store()
 {
     const Core::String username = text(IDC_USERNAME);
     user.setEnable(isChecked(IDC_USER_ENABLED));
-    if (isTaken(username))
+    if (isTaken(username, isNewUsernameTaken) || isGuestName(username))
     {
         return newUsernameTaken;
     }
@@ -63,17 +43,6 @@ const wchar_t* AddUserDlg::store()
     user.setUsername(username);
     user.setPasswordEncoded(password.get());
     return nullptr;
-}
-
-bool AddUserDlg::isTaken(const Core::String& username) const
-{
-    const Tessaro::UserCollection users;
-    bool taken = isGuestName(username);
-    for (int index = 0; index < users.getCount() && !taken; ++index)
-    {
-        taken = isNewUsernameTaken(username, user, users.getAt(index));
-    }
-    return taken;
 }
 
 } // namespace TMgmt

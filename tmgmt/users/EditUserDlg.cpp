@@ -1,7 +1,5 @@
 #include "tmgmt/users/EditUserDlg.h"
 
-#include "brimlow/tessaro/UserCollection.h"
-#include "tmgmt/frame/reportRefusal.h"
 #include "tmgmt/resources/ids.h"
 #include "tmgmt/ui/SecretText.h"
 #include "tmgmt/ui/WaitCursor.h"
@@ -11,9 +9,12 @@
 namespace TMgmt
 {
 
-EditUserDlg::EditUserDlg(Tessaro::User user_) : Dialog(IDD_EDIT_USER), user(std::move(user_)), m_guestMode(false) {}
+EditUserDlg::EditUserDlg(Tessaro::User user_) : UserDlg(IDD_EDIT_USER, std::move(user_)), m_guestMode(false) {}
 
-EditUserDlg::EditUserDlg(bool guestEnabled_) : Dialog(IDD_EDIT_USER), guestEnabled(guestEnabled_), m_guestMode(true) {}
+EditUserDlg::EditUserDlg(bool guestEnabled_)
+    : UserDlg(IDD_EDIT_USER, {}), guestEnabled(guestEnabled_), m_guestMode(true)
+{
+}
 
 bool EditUserDlg::onInit()
 {
@@ -33,24 +34,6 @@ bool EditUserDlg::onInit()
     return true;
 }
 
-void EditUserDlg::onOk()
-{
-    try
-    {
-        if (const wchar_t* const fault = store())
-        {
-            complain(fault, MB_ICONERROR);
-            return;
-        }
-    }
-    catch (const Core::Exception& exception)
-    {
-        reportRefusal(exception);
-        return;
-    }
-    end(IDOK);
-}
-
 const wchar_t* EditUserDlg::store()
 {
     const bool enabled = isChecked(IDC_USER_ENABLED);
@@ -61,7 +44,7 @@ const wchar_t* EditUserDlg::store()
     }
     const Core::String username = text(IDC_USERNAME);
     user.setEnable(enabled);
-    if (isTaken(username))
+    if (isTaken(username, isEditedUsernameTaken))
     {
         return editedUsernameTaken;
     }
@@ -87,17 +70,6 @@ const wchar_t* EditUserDlg::store()
     renameInAccessLists(user.getUsername(), username);
     user = changed;
     return nullptr;
-}
-
-bool EditUserDlg::isTaken(const Core::String& username) const
-{
-    const Tessaro::UserCollection users;
-    bool taken = false;
-    for (int index = 0; index < users.getCount() && !taken; ++index)
-    {
-        taken = isEditedUsernameTaken(username, user, users.getAt(index));
-    }
-    return taken;
 }
 
 } // namespace TMgmt

@@ -1,0 +1,40 @@
+#include "tmgmt/users/UserDlg.h"
+
+#include "brimlow/tessaro/UserCollection.h"
+#include "tmgmt/frame/reportRefusal.h"
+
+namespace TMgmt
+{
+
+UserDlg::UserDlg(UINT resource, Tessaro::User user_) : Dialog(resource), user(std::move(user_)) {}
+
+void UserDlg::onOk()
+{
+    try
+    {
+        if (const wchar_t* const fault = store())
+        {
+            complain(fault, MB_ICONERROR);
+            return;
+        }
+    }
+    catch (const Core::Exception& exception)
+    {
+        reportRefusal(exception);
+        return;
+    }
+    end(IDOK);
+}
+
+bool UserDlg::isTaken(const Core::String& username, TakenRule rule) const
+{
+    const Tessaro::UserCollection users;
+    bool taken = false;
+    for (int index = 0; index < users.getCount() && !taken; ++index)
+    {
+        taken = rule(username, user, users.getAt(index));
+    }
+    return taken;
+}
+
+} // namespace TMgmt
