@@ -85,6 +85,10 @@ build_sqlite() {
 build_openssl() {
   cp -r "$1" "$work/build-openssl"
   cd "$work/build-openssl"
+  # It cleans up after itself through msvcrt's _onexit, which runs when the process ends: too late in a DLL that is gone
+  # by then. The atexit of mingw-w64 belongs to the module.
+  grep -q '_onexit(win32atexit) == NULL' crypto/init.c
+  sed -i 's/_onexit(win32atexit) == NULL/atexit(OPENSSL_cleanup) != 0/' crypto/init.c
   logged openssl ./Configure mingw64 CC=x86_64-w64-mingw32-gcc-posix AR=x86_64-w64-mingw32-ar \
     RANLIB=x86_64-w64-mingw32-ranlib RC=x86_64-w64-mingw32-windres \
     no-shared no-module no-dso no-engine no-autoload-config no-tests no-comp no-ui-console
