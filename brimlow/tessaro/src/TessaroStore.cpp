@@ -1,6 +1,8 @@
 #include "TessaroStore.h"
 
+#include "ApplicationReader.h"
 #include "ApplicationTable.h"
+#include "MoveJournal.h"
 #include "UserTable.h"
 
 #include "brimlow/database/contentMark.h"
@@ -19,13 +21,14 @@ void create(Connection& connection, int)
 {
     ApplicationTable::create(connection);
     UserTable::create(connection);
+    MoveJournal::create(connection);
     Database::createContentMark(
         connection, {"application", "template", "resource_folder", "resource_file", "access", "user", "guest"});
 }
 
 Content load(const Connection& connection)
 {
-    return {.applications = ApplicationTable::load(connection),
+    return {.applications = ApplicationReader::readAll(connection, TessaroStore::machinePlace().applications),
             .users = UserTable::load(connection),
             .guestEnabled = UserTable::isGuestEnabled(connection)};
 }

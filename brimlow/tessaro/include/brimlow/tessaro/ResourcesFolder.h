@@ -19,14 +19,15 @@ class ResourcesFolder
     ResourcesFolder() noexcept = default;
 
     // Its position among the folders of its application when it was got; -1 when it belongs to none.
-    int getId() const noexcept;
+    int getId() const noexcept { return m_id; }
     Core::String getDisplayName() const;
     // The full path of the folder; empty when it belongs to no application.
     const Core::String& getResourcesFolderPath() const noexcept;
 
     int getCount() const noexcept;
-    // The reference is good until the folder changes or ends. A position that is none throws Core::Exception.
-    ResourceFile& getAt(int index);
+    // In the order in which they were added. The reference is good until the folder changes or ends. A position that is
+    // none throws Core::Exception.
+    const ResourceFile& getAt(int index) const;
 
     // Copies the file into the folder, under its own name, and lists it behind the others. Throws for a name that is
     // taken there or that is no name for a file, and when the file cannot be copied or is that very file.
@@ -39,13 +40,14 @@ class ResourcesFolder
     void deleteResourceFile(const ResourceFile& file);
 
   private:
-    friend class ApplicationTable;
-    friend class ServerApplication;
+    friend class ApplicationReader;
+    friend class ApplicationStore;
     struct Fields;
     const Fields& fields() const noexcept;
-    Fields& change();
 
-    std::shared_ptr<Fields> m_fields;
+    int m_id = -1;
+    // Shared by all copies, and never changed. None while the folder belongs to no application.
+    std::shared_ptr<const Fields> m_fields;
 };
 
 } // namespace Tessaro

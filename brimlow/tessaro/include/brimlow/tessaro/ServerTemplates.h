@@ -36,12 +36,12 @@ class ServerTemplates
     // updateApplication does.
     void renameApplication(const ServerApplication& application, const Core::String& newPath);
 
-    // Removes the application with that path, with its folder and everything in it. One that is gone already is no
-    // error.
+    // Removes the application that the last component of the path names, with its folder and everything in it. One
+    // that is gone already is no error.
     void deleteApplication(const Core::String& path);
 
-    // Stores what was changed in the application's engine and users since it was got: what others changed meanwhile
-    // stays, and what they removed does not come back. Throws when the application has been removed.
+    // Stores what was changed in the application's engine and users since it was got, or last given here: what others
+    // changed meanwhile stays, and what they removed does not come back. Throws when the application has been removed.
     void updateApplication(const ServerApplication& application);
 
   private:
