@@ -24,11 +24,7 @@ ListBench::ListBench(std::string name, FloorNode node, const std::vector<std::ws
 
 std::function<void()> ListBench::expect(std::size_t rows)
 {
-    return [this, rows]
-    {
-        m_plugIn.expectRows(rows);
-        m_restore();
-    };
+    return [this, rows] { m_plugIn.expectRows(rows); };
 }
 
 void ListBench::show()
@@ -72,6 +68,8 @@ std::function<void()> ListBench::prepare(List& list, const Change& change)
 {
     return [this, &list, &change]
     {
+        // Shown before, it may list what the last run left.
+        m_stage.leave();
         list.show();
         list.select(list.middle());
         m_answer.reset();
@@ -95,10 +93,18 @@ void ListBench::change(const Change& change)
         }
         change.least();
     };
-    compare(
-        title(change.what).c_str(), m_size, m_repetitions,
-        {.act = [&] { change.command(m_plugIn); }, .before = prepare(m_plugIn, change), .after = expect(change.rows)},
-        {.act = [this] { m_lowest.refresh(); }, .before = prepare(m_lowest, change), .after = expect(change.rows)});
+    const auto side = [&](List& list, std::function<void()> act)
+    {
+        return Side{.act = std::move(act),
+                    .before = prepare(list, change),
+                    .after = [&]
+                    {
+                        m_plugIn.expectRows(change.rows);
+                        m_restore();
+                    }};
+    };
+    compare(title(change.what).c_str(), m_size, m_repetitions, side(m_plugIn, [&] { change.command(m_plugIn); }),
+            side(m_lowest, [this] { m_lowest.refresh(); }));
     m_answer.reset();
     node.change = nullptr;
 }

@@ -51,7 +51,6 @@ class ListBench
 
   private:
     std::string title(const char* what) const { return m_name + ": " + what; }
-    // Checks the rows, and puts back what was changed.
     std::function<void()> expect(std::size_t rows);
     std::function<void()> prepare(List& list, const Change& change);
 

@@ -13,6 +13,7 @@ namespace
 {
 
 constexpr int templateNameEdit = 284;
+const Core::String guest = L"Guest";
 
 // The application that is worked with, in the middle of the others.
 Tessaro::ServerApplication& application(Tessaro::ServerTemplates& applications)
@@ -39,7 +40,7 @@ std::vector<std::wstring> namesWithAccess()
     std::vector<std::wstring> names;
     for (const Core::String& name : application(applications).getUsers())
     {
-        names.push_back(users.getUserByName(name).getUsername().str());
+        names.push_back(name == guest ? name.str() : users.getUserByName(name).getUsername().str());
     }
     return names;
 }
@@ -83,7 +84,7 @@ void access(const std::wstring& name, std::size_t size, std::size_t repetitions)
                   {
                       Tessaro::ServerTemplates applications;
                       Tessaro::ServerApplication& shown = application(applications);
-                      shown.addUser(L"Guest");
+                      shown.addUser(guest);
                       applications.updateApplication(shown);
                   },
                   .rows = usersOfEach + 1,

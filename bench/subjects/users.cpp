@@ -106,7 +106,11 @@ void usersOfApplications(std::size_t size, std::size_t repetitions)
 {
     makeApplications(size, usersOfEach);
     ListBench bench("Users: of applications", userList(), {L"Users"}, usersOfEach + 1, size, repetitions,
-                    [size] { Fixtures::make("applications", size); });
+                    [size]
+                    {
+                        Fixtures::make("users", usersOfEach);
+                        Fixtures::make("applications", size);
+                    });
     bench.change(
         {.what = "delete the same of all", .command = deleteSelected, .least = deleteMiddleUser, .rows = usersOfEach});
 }
