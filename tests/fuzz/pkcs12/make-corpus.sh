@@ -53,6 +53,7 @@ bundle 3des ec '' -keypbe PBE-SHA1-3DES -certpbe PBE-SHA1-3DES -macalg sha1
 # Nothing is encrypted, or nothing protected against changes: what is in the file can be changed one by one.
 bundle plain ec '' -keypbe NONE -certpbe NONE
 bundle plain-without-mac chain '' -keypbe NONE -certpbe NONE -nomac -certfile issuers.pem
+bundle smallest ed25519 '' -keypbe NONE -certpbe NONE -nomac
 bundle without-mac ec '' -nomac -certpbe AES-256-CBC
 bundle without-mac-3des ec '' -keypbe PBE-SHA1-3DES -certpbe PBE-SHA1-3DES -nomac
 bundle without-mac-secret ec secret -nomac -certpbe AES-256-CBC

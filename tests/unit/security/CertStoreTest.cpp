@@ -73,8 +73,8 @@ TEST_F(CertStoreTest, ACertificateIsDescribed)
     EXPECT_EQ(L"chain.example.com", certificate->getSubjectCN());
     EXPECT_EQ(L"intermediate.example.com", certificate->getIssuerCN());
     // As "openssl x509 -serial -fingerprint -sha256" tells.
-    EXPECT_EQ(L"43AEB8485F35FD544BB845E07106356D18D803B7", certificate->getSerialNumber());
-    EXPECT_EQ("7C204AC1ECCDFD615732A12F30F3FB532ACB362CED011976B21CAC3CB84B6BD4", certificate->getFingerprint());
+    EXPECT_EQ(L"4049BDD59DC98A7B92E24E6AECFBDA6A7C561A04", certificate->getSerialNumber());
+    EXPECT_EQ("A9C8434EAFA9075FA83739AE311D377BA52C6B61BAB6684EC9E916471758A569", certificate->getFingerprint());
 }
 
 TEST_F(CertStoreTest, RemovesTheCertificateAtAnIndex)
@@ -109,7 +109,7 @@ TEST_F(CertStoreTest, ACertificateThatIsGoneIsNeitherRemovedNorExported)
     m_store->open(true);
     m_store->deleteIdentity(0);
     const String gone =
-        L"The certificate of \"chain.example.com\" with the serial number 43AEB8485F35FD544BB845E07106356D18D803B7 "
+        L"The certificate of \"chain.example.com\" with the serial number 4049BDD59DC98A7B92E24E6AECFBDA6A7C561A04 "
         L"is not in the key store \"" +
         keyStorePath() + L"\" any more. Please refresh the list.";
     EXPECT_EQ(gone, refusal([&] { m_store->deleteIdentity(0); }));
@@ -130,7 +130,7 @@ TEST_F(CertStoreTest, FindsByEveryNameThatIsGiven)
     m_store->importPKCS12(corpusFile(L"rsa"));
     m_store->importPKCS12(corpusFile(L"chain"));
     m_store->open(true);
-    const String serial = L"43AEB8485F35FD544BB845E07106356D18D803B7";
+    const String serial = L"4049BDD59DC98A7B92E24E6AECFBDA6A7C561A04";
     const String issuer = L"intermediate.example.com";
     const std::string digest = fingerprint(1).toUtf8();
     EXPECT_EQ(L"chain.example.com", m_store->find(serial, issuer, "")->getSubjectCN());
@@ -146,9 +146,9 @@ TEST_F(CertStoreTest, FindsWhatWasListed)
     m_store->importPKCS12(corpusFile(L"chain"));
     m_store->open(true);
     m_store->deleteIdentity(0);
-    EXPECT_TRUE(m_store->find(L"43AEB8485F35FD544BB845E07106356D18D803B7", L"intermediate.example.com", ""));
+    EXPECT_TRUE(m_store->find(L"4049BDD59DC98A7B92E24E6AECFBDA6A7C561A04", L"intermediate.example.com", ""));
     m_store->open(true);
-    EXPECT_FALSE(m_store->find(L"43AEB8485F35FD544BB845E07106356D18D803B7", L"intermediate.example.com", ""));
+    EXPECT_FALSE(m_store->find(L"4049BDD59DC98A7B92E24E6AECFBDA6A7C561A04", L"intermediate.example.com", ""));
 }
 
 TEST_F(CertStoreTest, ANewStoreReadsTheKeyStoreByItself)

@@ -46,11 +46,6 @@ String SecurityTest::keyStorePath()
                                              L"Brimlow\\KeyStore\\KeyStore.p12");
 }
 
-std::string SecurityTest::keyStoreContent()
-{
-    return Core::IO::AtomicFile::read(keyStorePath());
-}
-
 std::vector<String> SecurityTest::listed()
 {
     std::vector<String> names;

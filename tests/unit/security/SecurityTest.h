@@ -20,11 +20,11 @@ std::string corpusContent(const wchar_t* name);
 // A test with a key store of its own, empty at first.
 class SecurityTest : public testing::Test
 {
+  public:
+    static Core::String keyStorePath();
+
   protected:
     SecurityTest();
-
-    static Core::String keyStorePath();
-    static std::string keyStoreContent();
 
     // The certificates that the store last read, or reads now.
     std::vector<Core::String> listed();
