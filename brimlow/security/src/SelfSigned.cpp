@@ -15,7 +15,7 @@ constexpr wchar_t failure[] = L"A certificate cannot be made";
 // The longest time for which all usual programs trust a server's certificate.
 constexpr int validDays = 825;
 // Computers whose clocks are a little behind accept the certificate too.
-constexpr long startsEarlierBySeconds = 5 * 60;
+constexpr long startsEarlierBySeconds = 5L * 60;
 
 void setSerialNumber(X509& certificate)
 {

@@ -17,7 +17,7 @@ namespace
 using Core::String;
 
 // In bytes. Real files have some thousand.
-constexpr std::uintmax_t maxFileSize = 10 * 1024 * 1024;
+constexpr std::uintmax_t maxFileSize = std::uintmax_t{10} << 20;
 
 template <class Exception = Core::Exception>
 [[noreturn]] void refuse(const wchar_t* sentence, const String& fileName)
