@@ -12,7 +12,7 @@ namespace TMgmt
 
 Console ComponentBase::console()
 {
-    return Console(m_console, m_rows, static_cast<IExtendControlbar*>(this));
+    return Console(m_console, m_data->treeConsole(), m_rows, static_cast<IExtendControlbar*>(this));
 }
 
 HRESULT ComponentBase::Initialize(IConsole* console)

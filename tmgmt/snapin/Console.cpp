@@ -12,8 +12,12 @@ using Microsoft::WRL::ComPtr;
 namespace TMgmt
 {
 
-Console::Console(ComPtr<IConsole> console, std::shared_ptr<ViewRows> rows, ComPtr<IExtendControlbar> controlbar)
-    : m_console(std::move(console)), m_rows(std::move(rows)), m_controlbar(std::move(controlbar))
+Console::Console(ComPtr<IConsole> console, ComPtr<IConsole> tree, std::shared_ptr<ViewRows> rows,
+                 ComPtr<IExtendControlbar> controlbar)
+    : m_console(std::move(console)),
+      m_tree(std::move(tree)),
+      m_rows(std::move(rows)),
+      m_controlbar(std::move(controlbar))
 {
     if (!m_console)
     {
@@ -138,7 +142,13 @@ HRESULT Console::selectScopeItem(HSCOPEITEM item)
 
 ComPtr<IConsoleNameSpace> Console::nameSpace()
 {
-    return query<IConsoleNameSpace>();
+    if (!m_tree)
+    {
+        throw ComError(E_UNEXPECTED);
+    }
+    ComPtr<IConsoleNameSpace> found;
+    throwIfFailed(m_tree.As(&found));
+    return found;
 }
 
 void Console::updateScopeItem(CSnapInItem& node)

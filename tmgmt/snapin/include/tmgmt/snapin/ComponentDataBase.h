@@ -31,6 +31,8 @@ class ComponentDataBase : public ComObject<IComponentData, IExtendContextMenu>
 
     // The node of that cookie; 0 is the static node. Throws ComError.
     Core::SmartPtr<CSnapInItem> item(MMC_COOKIE cookie);
+    // The console that the tree belongs to; null before Initialize and after Destroy.
+    const Microsoft::WRL::ComPtr<IConsole>& treeConsole() const noexcept { return m_console; }
 
   protected:
     virtual CSnapInItem& staticNode() = 0;
@@ -40,7 +42,7 @@ class ComponentDataBase : public ComObject<IComponentData, IExtendContextMenu>
     virtual IComponent* newComponent() = 0;
 
   private:
-    Console console() { return Console(m_console, nullptr, nullptr); }
+    Console console() { return Console(m_console); }
 
     Microsoft::WRL::ComPtr<IConsole> m_console;
 };

@@ -21,10 +21,13 @@ class ViewRows;
 class Console
 {
   public:
-    // rows and controlbar are null when the component data is the caller. Throws ComError(E_UNEXPECTED) without a
-    // console: a call before Initialize or after Destroy.
-    Console(Microsoft::WRL::ComPtr<IConsole> console, std::shared_ptr<ViewRows> rows,
-            Microsoft::WRL::ComPtr<IExtendControlbar> controlbar);
+    // The component data is the caller. Throws ComError(E_UNEXPECTED) without a console: a call before Initialize or
+    // after Destroy.
+    explicit Console(Microsoft::WRL::ComPtr<IConsole> console) : Console(console, console, nullptr, nullptr) {}
+    // A view is the caller. tree is the component data's console, the one that the tree belongs to: a view's own
+    // answers for the tree in some consoles only. Null where it is not there (any more). Throws in the same way.
+    Console(Microsoft::WRL::ComPtr<IConsole> console, Microsoft::WRL::ComPtr<IConsole> tree,
+            std::shared_ptr<ViewRows> rows, Microsoft::WRL::ComPtr<IExtendControlbar> controlbar);
 
     // The view's own control-bar interface, null when the component data is the caller.
     IExtendControlbar* controlbar() const noexcept { return m_controlbar.Get(); }
@@ -82,6 +85,7 @@ class Console
     ViewRows& rows();
 
     Microsoft::WRL::ComPtr<IConsole> m_console;
+    Microsoft::WRL::ComPtr<IConsole> m_tree;
     std::shared_ptr<ViewRows> m_rows;
     Microsoft::WRL::ComPtr<IExtendControlbar> m_controlbar;
     // Asked for once, however many rows go through it.
