@@ -69,5 +69,16 @@ picture dialog-grant-access --select "$invoices\\Users" --command 1057
 picture dialog-add-user --select 'Users' --command 1054
 picture dialog-edit-user --select 'Users' --row m_keller --command 1055
 picture dialog-edit-guest --select 'Users' --row Guest --command 1055
+picture dialog-certificate --select 'Server Certificates' --row render.example.com --command 1015
+install=(--select 'Server Certificates' --command 1012)
+picture wizard-certificate-type "${install[@]}"
+picture wizard-certificate-request-operation "${install[@]}" --press 310 --press 12324
+picture wizard-certificate-information "${install[@]}" --press 12324
+subject=()
+for field in {300..308}; do
+  subject+=(--enter "$field=FR")
+done
+picture wizard-certificate-request-file "${install[@]}" --press 310 --press 12324 --press 12324 "${subject[@]}" --press 12324
+picture wizard-certificate-file "${install[@]}" --press 310 --press 12324 --press 296 --press 12324
 picture dialog-edit-log-level --select 'Log' --row 'Log Level' --command 1000
 [ -z "$own_display" ] || stop_wine

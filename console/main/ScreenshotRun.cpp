@@ -54,6 +54,22 @@ HWND frontDialog(HWND main)
     return nullptr;
 }
 
+// Also on the page in front of a property sheet, which is a dialog within the dialog. dialog may be null.
+HWND controlIn(HWND dialog, int id)
+{
+    const HWND control = GetDlgItem(dialog, id);
+    if (control != nullptr || dialog == nullptr)
+    {
+        return control;
+    }
+    HWND page = FindWindowExW(dialog, nullptr, L"#32770", nullptr);
+    while (page != nullptr && !IsWindowVisible(page))
+    {
+        page = FindWindowExW(dialog, page, L"#32770", nullptr);
+    }
+    return GetDlgItem(page, id);
+}
+
 } // namespace
 
 ScreenshotRun::ScreenshotRun(MainWindow& window, const CommandLine& line,
@@ -194,7 +210,7 @@ void ScreenshotRun::runStep(HWND dialog)
     {
         m_stage = Stage::picture;
     }
-    const HWND control = dialog != nullptr ? GetDlgItem(dialog, step.control) : nullptr;
+    const HWND control = controlIn(dialog, step.control);
     if (control == nullptr)
     {
         fail(L"There is no control " + std::to_wstring(step.control) + L" in the open dialog.");

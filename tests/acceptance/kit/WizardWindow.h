@@ -18,6 +18,8 @@ class WizardWindow
 
     explicit WizardWindow(ModalWindow& sheet) : m_sheet(sheet) {}
 
+    // The caption of the page, which is the wizard's.
+    std::wstring caption() const { return m_sheet.caption(); }
     // The page that the user has before him; its controls are used as those of a dialog.
     ModalWindow page() const;
     // Which of Back, Next, Finish and Cancel can be pressed.
