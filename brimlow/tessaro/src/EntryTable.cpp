@@ -101,8 +101,8 @@ void EntryTable::checkFree(const Connection& connection, std::int64_t owner, std
     if (other && other->row != row)
     {
         throw Core::Exception(
-            (Core::StringFormatStream(L"There is already a {0} \"{1}\" here. Please choose another name.")
-             << noun << other->name)
+            (Core::StringFormatStream(L"The name \"{0}\" is taken by another {1}. Please choose another name.")
+             << other->name << noun)
                 .getString());
     }
 }
