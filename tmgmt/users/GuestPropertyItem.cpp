@@ -15,7 +15,7 @@ HRESULT GuestPropertyItem::edit(Console& console)
         return S_OK;
     }
     // The row shows what was chosen from now on, even when it cannot be stored: kept as is.
-    setAccount(displayName().c_str(), dialog.guestEnabled);
+    setAccount(name, dialog.guestEnabled);
     try
     {
         Tessaro::UserCollection().setGuestEnabled(isEnabled());

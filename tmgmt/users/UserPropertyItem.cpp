@@ -9,7 +9,7 @@ namespace TMgmt
 {
 
 UserPropertyItem::UserPropertyItem(const CSnapInItem& parent, const Tessaro::User& user)
-    : AccountItem(parent, user.getUsername().c_str(), user.isEnabled()), m_user(user)
+    : AccountItem(parent, L"User", user.getUsername(), user.isEnabled()), m_user(user)
 {
 }
 
@@ -48,7 +48,7 @@ HRESULT UserPropertyItem::edit(Console& console)
     }
     // The row shows what was entered from now on, even when it cannot be stored: kept as is.
     m_user = dialog.user;
-    setAccount(m_user.getUsername().c_str(), m_user.isEnabled());
+    setAccount(m_user.getUsername(), m_user.isEnabled());
     try
     {
         Tessaro::UserCollection().updateUser(m_user);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "brimlow/system/String.h"
 #include "tmgmt/frame/Item.h"
 #include "tmgmt/frame/yesOrNo.h"
 #include "tmgmt/snapin/ItemAccess.h"
@@ -20,7 +21,7 @@ class AccountItem : public Item<T>
         switch (column)
         {
         case 0:
-            return this->displayName().c_str();
+            return m_name.c_str();
         case 1:
             return yesOrNo(m_enabled);
         default:
@@ -42,10 +43,11 @@ class AccountItem : public Item<T>
     }
 
   protected:
-    // parent is the node that lists this one.
-    AccountItem(const CSnapInItem& parent, const wchar_t* name, bool enabled)
-        : Item<T>(ResultNode{.displayName = name, .image = enabled ? 17 : 23}),
+    // parent is the node that lists this one. displayName is the console's name for it, which is not shown.
+    AccountItem(const CSnapInItem& parent, const wchar_t* displayName, Core::String name, bool enabled)
+        : Item<T>(ResultNode{.displayName = displayName, .image = enabled ? 17 : 23}),
           m_parent(parent.cookie()),
+          m_name(std::move(name)),
           m_enabled(enabled)
     {
     }
@@ -53,9 +55,9 @@ class AccountItem : public Item<T>
     virtual HRESULT edit(Console& console) = 0;
 
     // What the columns show from now on. The picture stays until the list is read anew.
-    void setAccount(const wchar_t* name, bool enabled)
+    void setAccount(const Core::String& name, bool enabled)
     {
-        this->setDisplayName(name);
+        m_name = name;
         m_enabled = enabled;
     }
     bool isEnabled() const noexcept { return m_enabled; }
@@ -70,6 +72,7 @@ class AccountItem : public Item<T>
 
   private:
     MMC_COOKIE m_parent;
+    Core::String m_name;
     bool m_enabled;
 };
 
