@@ -88,7 +88,7 @@ TEST_F(Menus, noVerbIsEnabledOnNodesAndRowsOfThisKind)
 {
     open();
     for (const wchar_t* const path :
-         {L"", L"About KV Tessaro", L"Engine Settings", L"Engine Settings\\AFP Encoder", L"Log"})
+         {L"", L"About KV Tessaro", L"Users", L"Engine Settings", L"Engine Settings\\AFP Encoder", L"Log"})
     {
         view().select(path);
         for (const MMC_CONSOLE_VERB verb : settledVerbs)
