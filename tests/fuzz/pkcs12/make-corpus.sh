@@ -60,8 +60,6 @@ bundle without-mac-secret ec secret -nomac -certpbe AES-256-CBC
 # So many rounds that the number takes three bytes, which tests replace.
 bundle rounds ec '' -iter 70000
 bundle rounds-without-mac ec '' -iter 70000 -nomac -certpbe AES-256-CBC
-# Three parts that are acceptable each, and too slow together.
-bundle slow ec '' -iter 1400000
 # Passwords beyond ASCII: "Grüße" and a key.
 bundle umlauts ec $'Gr\u00fc\u00dfe'
 bundle umlauts-3des ec $'Gr\u00fc\u00dfe' -keypbe PBE-SHA1-3DES -certpbe PBE-SHA1-3DES -macalg sha1

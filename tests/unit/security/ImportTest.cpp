@@ -253,7 +253,6 @@ TEST_F(ImportTest, TooManyRoundsOfKeyDerivationAreRefusedWhereverTheyAre)
         {"certificates", withRounds(L"rounds-without-mac", 1, 3'000'001)},
         {"key", withRounds(L"rounds-without-mac", 2, 3'000'001)},
         {"protection against changes", withRounds(L"rounds", 3, 3'000'001)},
-        {"all together", corpusContent(L"slow")},
     };
     for (const auto& [part, content] : slow)
     {

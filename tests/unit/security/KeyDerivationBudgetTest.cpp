@@ -1,5 +1,6 @@
 #include "KeyDerivationBudget.h"
 #include "Pkcs12Fault.h"
+#include "Pkcs12Reader.h"
 #include "openssl.h"
 
 #include <gtest/gtest.h>
@@ -96,6 +97,45 @@ TEST(KeyDerivationBudget, CountsAllPartsTogether)
     budget.charge(*pbe(1'000'000));
     budget.charge(*scrypt(1000, 10, 100));
     EXPECT_THROW(budget.charge(*pbe(1)), Pkcs12Fault);
+}
+
+// A key that nobody can decrypt, and that says that it takes as many rounds.
+PKCS12_SAFEBAG* bagOf(const AlgorithmPtr& algorithm)
+{
+    Security::EncryptedPkcs8Ptr key(X509_SIG_new());
+    X509_ALGOR* place = nullptr;
+    X509_SIG_getm(key.get(), &place, nullptr);
+    X509_ALGOR_copy(place, algorithm.get());
+    return PKCS12_SAFEBAG_create0_pkcs8(key.release());
+}
+
+TEST(KeyDerivationBudget, IsOneForAllPartsOfAFile)
+{
+    for (const int rounds : {1'500'000, 1'500'001})
+    {
+        const Security::BagsPtr bags(sk_PKCS12_SAFEBAG_new_null());
+        sk_PKCS12_SAFEBAG_push(bags.get(), bagOf(pbkdf2(1'500'000)));
+        sk_PKCS12_SAFEBAG_push(bags.get(), bagOf(pbe(rounds)));
+        STACK_OF(PKCS7)* list = nullptr;
+        PKCS12_add_safe(&list, bags.get(), -1, 1, nullptr);
+        const Security::SafesPtr safes(list);
+        const Security::Pkcs12Ptr file(PKCS12_add_safes(safes.get(), 0));
+        unsigned char* bytes = nullptr;
+        const int size = i2d_PKCS12(file.get(), &bytes);
+        const Security::MemoryPtr owner(bytes);
+        const Security::Secret none;
+        const auto read = [&] {
+            Security::Pkcs12Reader({reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(size)}, none);
+        };
+        if (rounds == 1'500'000)
+        {
+            EXPECT_NO_THROW(read());
+        }
+        else
+        {
+            EXPECT_THROW(read(), Pkcs12Fault);
+        }
+    }
 }
 
 TEST(KeyDerivationBudget, NoNumberIsSoLargeThatItLooksSmall)

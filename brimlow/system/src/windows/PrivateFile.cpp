@@ -1,6 +1,7 @@
 #include "brimlow/system/PrivateFile.h"
 
 #include "FileOperations.h"
+#include "brimlow/system/FileSystem.h"
 #include "parentFolder.h"
 #include "platform/handles.h"
 
@@ -44,7 +45,8 @@ void makePrivateFile(const String& path)
 {
     const String folder = parentFolder(path);
     makeParentFolders(folder, *makeSystemFileOperations());
-    if (!CreateDirectoryW(folder.c_str(), AccessList(folderAccess).attributes()) &&
+    // Asked first, because Windows refuses to make the top of a drive as if access to it were denied.
+    if (!FileSystem::folderExists(folder) && !CreateDirectoryW(folder.c_str(), AccessList(folderAccess).attributes()) &&
         GetLastError() != ERROR_ALREADY_EXISTS)
     {
         throw IOException(L"The folder \"" + folder + L"\" cannot be made", GetLastError());
