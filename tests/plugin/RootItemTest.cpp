@@ -56,7 +56,7 @@ class RootItemTest : public testing::Test
     HRESULT expand(RootBranches children)
     {
         ComPtr<IConsole> unknown(m_tree.Get());
-        Console console(unknown, nullptr, nullptr);
+        Console console(unknown);
         const Core::SmartPtr<RootItem> root(new RootItem(std::move(children)));
         return root->OnExpand(true, 1, console);
     }
