@@ -40,7 +40,7 @@ HRESULT replaceChildren(CSnapInItem& node, std::span<const Core::SmartPtr<CSnapI
     throwIfFailed(console.nameSpace()->GetItem(&record));
     if (record.nState & MMC_SCOPE_ITEM_STATE_EXPANDEDONCE)
     {
-        return expandChildren(node, children, true, record.ID, console);
+        expandChildren(node, children, true, record.ID, console);
     }
     console.updateScopeItem(node);
     return S_OK;

@@ -71,8 +71,12 @@ HRESULT TemplateResourcesCollection::OnDelete(Console& console)
 
 void TemplateResourcesCollection::refreshResultList(Console& console)
 {
+    const std::wstring formerName = displayName();
     Collection::refreshResultList(console);
-    console.updateScopeItem(*this);
+    if (displayName() != formerName)
+    {
+        console.updateScopeItem(*this);
+    }
 }
 
 TemplateResourcesCollection::Rows TemplateResourcesCollection::readRows()

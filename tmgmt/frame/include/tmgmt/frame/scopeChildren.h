@@ -17,8 +17,8 @@ namespace TMgmt
 HRESULT expandChildren(CSnapInItem& node, std::span<const Core::SmartPtr<CSnapInItem>> children, bool expanding,
                        HSCOPEITEM handle, Console& console);
 
-// The node has these children from now on. What the console shows below it goes, and they come in its place; where the
-// node was never expanded, the console learns only whether there are any. Throws as expandChildren does.
+// The node has these children from now on. The console learns whether there are any, and where the node was expanded
+// before, they come in the place of those that are shown. Throws as expandChildren does.
 HRESULT replaceChildren(CSnapInItem& node, std::span<const Core::SmartPtr<CSnapInItem>> children, Console& console);
 
 } // namespace TMgmt
