@@ -195,8 +195,8 @@ bool MoveJournal::isPending() const
 std::optional<MoveJournal::Pending> MoveJournal::read() const
 {
     const std::vector<String> lines = fromBytes(Core::IO::AtomicFile::read(m_path)).split(L"\n");
-    if (lines.size() != 4 || !isPlace(lines[1]) || !isPlace(lines[2]) || m_files.leadsElsewhere(parentOf(lines[1])) ||
-        m_files.leadsElsewhere(parentOf(lines[2])))
+    if (lines.size() != 4 || !lines[3].empty() || !isPlace(lines[1]) || !isPlace(lines[2]) ||
+        m_files.leadsElsewhere(parentOf(lines[1])) || m_files.leadsElsewhere(parentOf(lines[2])))
     {
         return std::nullopt;
     }
