@@ -54,6 +54,13 @@ TEST_F(FolderFilesOnWindows, WorkInAFolderWithALongPath)
     }
 }
 
+TEST_F(FolderFilesOnWindows, AreListedWhereTheFolderEndsWithASeparator)
+{
+    const std::wstring file = m_path + L"\\a.log";
+    makeFile(file);
+    EXPECT_THAT(FileSystem::getFiles(m_path + L"\\", L"*.log"), ElementsAre(file));
+}
+
 TEST_F(FolderFilesOnWindows, WithALongNameWorkInAFolderWithAShortPath)
 {
     const std::wstring file = m_path + L'\\' + std::wstring(240, L'x') + L".log";

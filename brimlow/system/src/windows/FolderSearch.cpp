@@ -5,10 +5,21 @@
 namespace Core::IO
 {
 
-// "*" takes everything: the system's own patterns compare short names too, so that "*.log" would give "a.log1". Short
-// names are left out and many entries are read in one go.
+namespace
+{
+
+// "*" takes everything: the system's own patterns compare short names too, so that "*.log" would give "a.log1". In the
+// long form of a path, which goes to the file system as it is, two separators are a name that there cannot be.
+std::wstring everythingIn(const std::wstring& folder)
+{
+    return folder + (folder.ends_with(L'\\') ? L"*" : L"\\*");
+}
+
+} // namespace
+
+// Short names are left out and many entries are read in one go.
 FolderSearch::FolderSearch(const std::wstring& folder)
-    : m_search(FindFirstFileExW((folder + L"\\*").c_str(), FindExInfoBasic, &m_entry, FindExSearchNameMatch, nullptr,
+    : m_search(FindFirstFileExW(everythingIn(folder).c_str(), FindExInfoBasic, &m_entry, FindExSearchNameMatch, nullptr,
                                 FIND_FIRST_EX_LARGE_FETCH)),
       m_found(static_cast<bool>(m_search))
 {
