@@ -124,6 +124,12 @@ CertificatePtr Authority::sign(X509_NAME* subject, EVP_PKEY* key, long serialNum
     return certificate;
 }
 
+const Authority& authority()
+{
+    static const Authority authority;
+    return authority;
+}
+
 Subject subjectOfRequest(const std::string& pem)
 {
     return read(X509_REQ_get_subject_name(readRequest(pem).get()));

@@ -42,6 +42,9 @@ class Authority
     KeyPtr m_key;
 };
 
+// One for all tests.
+const Authority& authority();
+
 // What a name, or the subject of a request or certificate, says: the texts by their short names ("CN", "O", …).
 using Subject = std::map<std::string, std::wstring>;
 

@@ -17,7 +17,7 @@ class CertificateFaults : public CertificatesTest
     void SetUp() override
     {
         CertificatesTest::SetUp();
-        storeAll({L"one.example"});
+        installCertificates({L"one.example"});
     }
 
     static std::string damage()

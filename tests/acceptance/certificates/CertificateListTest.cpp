@@ -33,7 +33,7 @@ TEST_F(CertificateList, isEmptyWhereNothingIsStored)
 
 TEST_F(CertificateList, showsSerialNumberIssuerAndSubjectInTheOrderOfTheStore)
 {
-    storeAll({L"zeta.example", L"alpha.example"});
+    installCertificates({L"zeta.example", L"alpha.example"});
     openNode();
     EXPECT_THAT(view().rows(), ElementsAre(ElementsAre(L"01", Authority::name, L"zeta.example"),
                                            ElementsAre(L"02", Authority::name, L"alpha.example")));
@@ -42,7 +42,7 @@ TEST_F(CertificateList, showsSerialNumberIssuerAndSubjectInTheOrderOfTheStore)
 TEST_F(CertificateList, showsNamesInAnyScript)
 {
     const std::wstring name = L"证书, \"شهادة\" = сертификат / \U0001F512";
-    storeAll({name});
+    installCertificates({name});
     openNode();
     EXPECT_THAT(names(), ElementsAre(name));
 }
@@ -50,7 +50,7 @@ TEST_F(CertificateList, showsNamesInAnyScript)
 // No console asks for it.
 TEST_F(CertificateList, hasNothingInFurtherColumns)
 {
-    storeAll({L"one.example"});
+    installCertificates({L"one.example"});
     BareSnapIn snapIn;
     const auto bare = snapIn.makeView();
     const SCOPEDATAITEM parent = snapIn.node(node);
@@ -74,26 +74,10 @@ TEST_F(CertificateList, doesNotSort)
     EXPECT_FALSE(view().view().multiSelect());
 }
 
-TEST_F(CertificateList, offersToInstallOne)
-{
-    openNode();
-    EXPECT_THAT(view().nodeMenu(node), testing::Contains(install));
-}
-
-TEST_F(CertificateList, offersThreeCommandsForACertificate)
-{
-    storeAll({L"one.example"});
-    openNode();
-    const auto menu = view().menu(L"01");
-    ASSERT_GE(menu.size(), 3u);
-    EXPECT_THAT(std::vector(menu.begin(), menu.begin() + 3), ElementsAre(uninstall, exportCommand, properties));
-    EXPECT_TRUE(view().canDelete(L"01"));
-}
-
 TEST_F(CertificateList, isReadAnewWheneverItIsShown)
 {
     openNode();
-    storeAll({L"one.example"});
+    installCertificates({L"one.example"});
     EXPECT_TRUE(names().empty());
     view().select(L"Users");
     view().select(node);
@@ -107,7 +91,7 @@ TEST_F(CertificateList, isReadAnewByTheConsolesRefresh)
     const SCOPEDATAITEM parent = snapIn.node(node);
     const auto object = snapIn.object(parent.lParam);
     ASSERT_EQ(S_OK, bare->component->Notify(object.Get(), MMCN_SHOW, TRUE, parent.ID));
-    storeAll({L"one.example", L"two.example"});
+    installCertificates({L"one.example", L"two.example"});
     EXPECT_TRUE(bare->console.results.rows.empty());
     ASSERT_EQ(S_OK, bare->component->Notify(object.Get(), MMCN_REFRESH, 0, 0));
     ASSERT_EQ(2u, bare->console.results.rows.size());
@@ -117,7 +101,7 @@ TEST_F(CertificateList, isReadAnewByTheConsolesRefresh)
 TEST_F(CertificateList, showsTheSameInEveryViewAfterItWasShownInOne)
 {
     openNode(2);
-    storeAll({L"one.example"});
+    installCertificates({L"one.example"});
     view(1).select(L"Users");
     view(1).select(node);
     EXPECT_THAT(names(1), ElementsAre(L"one.example"));
@@ -154,7 +138,7 @@ TEST_F(CertificateList, keepsManyCertificatesInTheirOrder)
     {
         many.push_back(std::to_wstring(i) + L".example");
     }
-    storeAll(many);
+    installCertificates(many);
     openNode();
     EXPECT_EQ(many, names());
 }

@@ -32,7 +32,7 @@ class CertificateProperties : public CertificatesTest
 
 TEST_F(CertificateProperties, areShownByTheCommand)
 {
-    storeAll({L"one.example", L"two.example"});
+    installCertificates({L"one.example", L"two.example"});
     openNode();
     expectDialog(L"02", L"two.example");
     view().runCommand(L"02", properties);
@@ -40,7 +40,7 @@ TEST_F(CertificateProperties, areShownByTheCommand)
 
 TEST_F(CertificateProperties, areShownByADoubleClick)
 {
-    storeAll({L"one.example", L"two.example"});
+    installCertificates({L"one.example", L"two.example"});
     openNode();
     expectDialog(L"01", L"one.example");
     view().doubleClick(L"01");
@@ -48,7 +48,7 @@ TEST_F(CertificateProperties, areShownByADoubleClick)
 
 TEST_F(CertificateProperties, areThoseOfTheListWhileTheStoreChanges)
 {
-    storeAll({L"one.example", L"two.example"});
+    installCertificates({L"one.example", L"two.example"});
     openNode();
     remove(1);
     expectDialog(L"02", L"two.example");
@@ -58,7 +58,7 @@ TEST_F(CertificateProperties, areThoseOfTheListWhileTheStoreChanges)
 // Another console in this process reads the store anew.
 TEST_F(CertificateProperties, ofOneThatIsNotThereAnyMoreAreAnError)
 {
-    storeAll({L"one.example"});
+    installCertificates({L"one.example"});
     BareSnapIn first;
     const auto view = first.makeView();
     const SCOPEDATAITEM parent = first.node(node);

@@ -25,18 +25,6 @@ void CertificatesTest::TearDown()
     std::filesystem::remove_all(documents);
 }
 
-void CertificatesTest::storeAll(const std::vector<std::wstring>& names)
-{
-    long serialNumber = 0;
-    for (const std::wstring& name : names)
-    {
-        const auto file = document(L"other.p12");
-        authority().issue(name, ++serialNumber, file);
-        Security::CertStore::getCertStoreInstance()->importPKCS12(file.wstring());
-        std::filesystem::remove(file);
-    }
-}
-
 void CertificatesTest::remove(unsigned index)
 {
     const auto store = Security::CertStore::getCertStoreInstance();
@@ -196,12 +184,6 @@ void CertificatesTest::wizardError(const std::wstring& text, std::source_locatio
 void CertificatesTest::pageError(const std::wstring& text, std::source_location where)
 {
     robot.message({.text = text, .caption = L"Error", .icon = MB_ICONERROR, .owner = Owner::dialog}, where);
-}
-
-const Authority& CertificatesTest::authority()
-{
-    static const Authority authority;
-    return authority;
 }
 
 } // namespace Acceptance

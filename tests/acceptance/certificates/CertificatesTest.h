@@ -1,6 +1,7 @@
 #pragma once
 
 #include "certificates/Authority.h"
+#include "certificates/installCertificates.h"
 #include "kit/ConsoleTest.h"
 #include "kit/WizardWindow.h"
 
@@ -50,8 +51,6 @@ class CertificatesTest : public ConsoleTest
     void SetUp() override;
     void TearDown() override;
 
-    // Another program installs one certificate for each of these common names, with the serial numbers 01, 02, …
-    static void storeAll(const std::vector<std::wstring>& names);
     // Another program removes the one at that place.
     static void remove(unsigned index);
     // What is stored: serial number, issuer, subject.
@@ -92,8 +91,6 @@ class CertificatesTest : public ConsoleTest
     void wizardError(const std::wstring& text, std::source_location where = std::source_location::current());
     // What a page of the wizard refuses.
     void pageError(const std::wstring& text, std::source_location where = std::source_location::current());
-
-    static const Authority& authority();
 };
 
 } // namespace Acceptance

@@ -17,7 +17,7 @@ class ExportCertificate : public CertificatesTest
     void SetUp() override
     {
         CertificatesTest::SetUp();
-        storeAll({L"one.example", L"two.example"});
+        installCertificates({L"one.example", L"two.example"});
         openNode();
     }
 

@@ -52,7 +52,7 @@ class SelfSignedCertificate : public CertificatesTest
 
 TEST_F(SelfSignedCertificate, isMadeOfWhatWasEnteredAndListed)
 {
-    storeAll({L"one.example"});
+    installCertificates({L"one.example"});
     openNode();
     create(entries());
     EXPECT_EQ(expectedSubject(), subjectStored(1));
@@ -131,6 +131,31 @@ TEST_F(SelfSignedCertificate, thatCannotBeMadeLeavesTheWizardOpen)
            });
     runWizard();
     EXPECT_THAT(names(), ElementsAre(L"render.example.com"));
+}
+
+// The box has no owner; still, Finish cannot be pressed a second time behind it.
+TEST_F(SelfSignedCertificate, thatCannotBeMadeLocksTheWizardUntilItsMessageIsRead)
+{
+    openNode();
+    wizard(CertificateWizard::typeCaption,
+           [](WizardWindow& wizard)
+           {
+               wizard.click(WizardWindow::next);
+               ModalWindow page = wizard.page();
+               typeSubject(page, entries());
+               page.type(CertificateWizard::country, L"F1");
+               wizard.press(WizardWindow::finish);
+           });
+    robot.messageThat(
+        [](const MessageBoxSeen& box)
+        {
+            EXPECT_EQ(Owner::none, box.owner);
+            const HWND sheet = FindWindowW(nullptr, CertificateWizard::subjectCaption);
+            ASSERT_NE(nullptr, sheet);
+            EXPECT_FALSE(IsWindowEnabled(sheet));
+        });
+    lookAndCancel(CertificateWizard::subjectCaption, [](WizardWindow&) {});
+    runWizard();
 }
 
 } // namespace

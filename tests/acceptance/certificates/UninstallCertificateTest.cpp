@@ -15,7 +15,7 @@ class UninstallCertificate : public CertificatesTest
     void SetUp() override
     {
         CertificatesTest::SetUp();
-        storeAll({L"one.example", L"two.example", L"three.example"});
+        installCertificates({L"one.example", L"two.example", L"three.example"});
     }
 
     static std::vector<std::wstring> storedNames()

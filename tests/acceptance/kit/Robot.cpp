@@ -209,7 +209,22 @@ void Robot::activated(HWND window)
 
 void Robot::destroyed(HWND window)
 {
-    std::erase(m_open, window);
+    const auto gone = std::ranges::find(m_open, window);
+    if (gone == m_open.end())
+    {
+        return;
+    }
+    // What a window covered mostly comes to the front before that window is gone. Where it comes later, the gap says
+    // that it was covered.
+    const bool isInFront = gone + 1 == m_open.end();
+    if (isInFront && gone != m_open.begin())
+    {
+        *gone = nullptr;
+    }
+    else
+    {
+        m_open.erase(gone);
+    }
 }
 
 void Robot::use(HWND window)
