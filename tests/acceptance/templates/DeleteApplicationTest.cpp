@@ -29,9 +29,12 @@ TEST_F(DeleteApplication, asksNothingAndSelectsTheBranch)
 {
     addFolder(L"Letters", L"Images");
     openAt(nodeOf(L"Letters"));
+    recorder.forgetCalls();
     view().view().runVerb(MMC_VERB_DELETE);
     EXPECT_THAT(storedApplications(), ElementsAre(L"Bills", L"Orders"));
     EXPECT_FALSE(std::filesystem::exists(serverTemplates(L"Letters")));
+    EXPECT_EQ(1u, recorder.calls(L"IConsoleNameSpace::DeleteItem", L"deleteThis=1").size());
+    EXPECT_EQ(1u, recorder.calls(L"IConsole::SelectScopeItem").size());
     EXPECT_EQ(branch, view().selected());
     EXPECT_THAT(view().children(branch), ElementsAre(L"Bills", L"Orders"));
     EXPECT_THAT(names(), ElementsAre(L"Bills", L"Orders"));
