@@ -1,8 +1,9 @@
 #include "brimlow/hotfolder/HotFolderCollection.h"
+#include "certificates/installCertificates.h"
 #include "frame/BareSnapIn.h"
 #include "frame/nodeData.h"
-#include "kit/ConsoleTest.h"
 #include "kit/windows.h"
+#include "templates/TemplatesTest.h"
 
 namespace Acceptance
 {
@@ -36,7 +37,37 @@ void PrintTo(const ResultRow& row, std::ostream* out)
     *out << "rows of \"" << narrow(row.parent) << '"';
 }
 
-class ScopeNodes : public ConsoleTest, public testing::WithParamInterface<ScopeRow>
+// A server with something for every node that lists what it finds.
+class FilledServer : public TemplatesTest
+{
+  protected:
+    void SetUp() override
+    {
+        TemplatesTest::SetUp();
+        ServerFiles::write(ServerFiles::folder() / L"Common" / L"Config" / L"Fonts.config",
+                           ServerFiles::configurationWith("    <add key=\"MapFont:A\" value=\"a.ttf\"/>\r\n"
+                                                          "    <add key=\"MapFont:B\" value=\"b.ttf\"/>\r\n"));
+        ServerFiles::write(ServerFiles::folder() / L"Log" / L"one.log", "");
+        ServerFiles::write(ServerFiles::folder() / L"Log" / L"two.log", "");
+        HotFolders::HotFolder hotFolder;
+        hotFolder.setFolder(L"C:\\One");
+        hotFolder.setOutputFolder(L"C:\\Out");
+        HotFolders::HotFolderCollection().addNewFolder(hotFolder);
+        installCertificates({L"one.example"});
+        addApplication(L"Invoices");
+        addTemplate(L"Invoices", L"letter.kvd");
+        addFolder(L"Invoices", L"Images");
+        addFile(L"Invoices", L"Images", L"logo.png");
+    }
+};
+
+// The last part of a path.
+std::wstring nameIn(const std::wstring& path)
+{
+    return path.substr(path.rfind(L'\\') + 1);
+}
+
+class ScopeNodes : public FilledServer, public testing::WithParamInterface<ScopeRow>
 {
 };
 
@@ -56,8 +87,7 @@ TEST_P(ScopeNodes, tellTheirNameAndKind)
 {
     BareSnapIn snapIn;
     const SCOPEDATAITEM node = snapIn.node(GetParam().path);
-    const std::wstring path = GetParam().path;
-    const std::wstring name = path.substr(path.find(L'\\') + 1);
+    const std::wstring name = nameIn(GetParam().path);
     EXPECT_EQ(name, snapIn.displayName(node.lParam));
     const auto object = snapIn.object(node.lParam);
     EXPECT_EQ(name, displayNameOf(object.Get()));
@@ -87,12 +117,11 @@ TEST_P(ScopeNodes, asARowHaveTheirNameInEveryColumnAndTheirImage)
     asked.mask = RDI_STR | RDI_IMAGE;
     asked.bScopeItem = TRUE;
     asked.lParam = snapIn.node(GetParam().path).lParam;
-    const std::wstring path = GetParam().path;
     for (const int column : {0, 1, 9})
     {
         asked.nCol = column;
         ASSERT_EQ(S_OK, view->component->GetDisplayInfo(&asked));
-        EXPECT_EQ(path.substr(path.find(L'\\') + 1), asked.str);
+        EXPECT_EQ(nameIn(GetParam().path), asked.str);
         EXPECT_EQ(GetParam().image, asked.nImage);
     }
 }
@@ -116,7 +145,10 @@ INSTANTIATE_TEST_SUITE_P(
     All, ScopeNodes,
     testing::Values(ScopeRow{L"About KV Tessaro", L"{3F7862F1-CC1A-424B-90F8-D57BC7EBE021}", 14, 0},
                     ScopeRow{L"Hot Folders", L"{6AE6B122-195A-4BA7-BB77-202AB5C3BABB}", 8, 0},
-                    ScopeRow{L"Server Templates", L"{D7117DDF-483E-4512-8FBF-4F6F6A361B8B}", 8, 0},
+                    ScopeRow{L"Server Templates", L"{D7117DDF-483E-4512-8FBF-4F6F6A361B8B}", 8, 1},
+                    ScopeRow{L"Server Templates\\Invoices", L"{27967510-9844-4A62-86F9-C98CBEBB952B}", 8, 1},
+                    ScopeRow{L"Server Templates\\Invoices\\Users", L"{4FACC623-0D1D-41C8-93F4-6F01450519FE}", 19, 0},
+                    ScopeRow{L"Server Templates\\Invoices\\Images", L"{B541A7C3-A80A-418A-A369-7F340A53BF0C}", 8, 0},
                     ScopeRow{L"Users", L"{7DA27E6C-61DF-4D4D-A4DE-9EA55FAD50FF}", 19, 0},
                     ScopeRow{L"Server Certificates", L"{B4C33637-C2C8-4F22-8B19-C6E81BABCA0B}", 7, 0},
                     ScopeRow{L"Engine Settings", L"{C9CFDCE2-4C8D-457B-8492-2EA136475ABA}", 1, 2},
@@ -150,23 +182,8 @@ TEST_F(RootNode, answersForItsImages)
     EXPECT_EQ(1, asked.nOpenImage);
 }
 
-class ResultRows : public ConsoleTest, public testing::WithParamInterface<ResultRow>
+class ResultRows : public FilledServer, public testing::WithParamInterface<ResultRow>
 {
-  protected:
-    // Rows for the nodes that have none of their own.
-    void SetUp() override
-    {
-        ConsoleTest::SetUp();
-        ServerFiles::write(ServerFiles::folder() / L"Common" / L"Config" / L"Fonts.config",
-                           ServerFiles::configurationWith("    <add key=\"MapFont:A\" value=\"a.ttf\"/>\r\n"
-                                                          "    <add key=\"MapFont:B\" value=\"b.ttf\"/>\r\n"));
-        ServerFiles::write(ServerFiles::folder() / L"Log" / L"one.log", "");
-        ServerFiles::write(ServerFiles::folder() / L"Log" / L"two.log", "");
-        HotFolders::HotFolder hotFolder;
-        hotFolder.setFolder(L"C:\\One");
-        hotFolder.setOutputFolder(L"C:\\Out");
-        HotFolders::HotFolderCollection().addNewFolder(hotFolder);
-    }
 };
 
 TEST_P(ResultRows, areInsertedAsTheTableHasThem)
@@ -195,16 +212,22 @@ constexpr wchar_t settingRow[] = L"{5E04C561-3019-11D3-8856-204C4F4F5020}";
 
 INSTANTIATE_TEST_SUITE_P(
     All, ResultRows,
-    testing::Values(ResultRow{L"About KV Tessaro", 4, L"Property Item", L"{FCD66532-7182-476C-8D0B-A8AC16FA9FE2}", 2},
-                    // A hot folder goes by its own name.
-                    ResultRow{L"Hot Folders", 1, L"One", L"{5CEF680A-BF2E-49F5-B074-59D8CB29612D}", 8},
-                    ResultRow{L"Engine Settings\\Listener Configuration", 3, L"Property Item", settingRow, 2},
-                    ResultRow{L"Engine Settings\\AFP Encoder", 4, L"Property Item", settingRow, 2},
-                    ResultRow{L"Engine Settings\\Private Fonts", 2, L"Private Font Item",
-                              L"{10158B7C-D952-49E4-8ACA-CD3C47E3A37D}", 4},
-                    ResultRow{L"Log", 3, L"Property Item", settingRow, 2},
-                    ResultRow{L"Log\\Log Files", 2, L"Log Property Item", L"{0C63EBA1-9EF4-432B-AC5D-945439EA7937}",
-                              16}));
+    testing::Values(
+        ResultRow{L"About KV Tessaro", 4, L"Property Item", L"{FCD66532-7182-476C-8D0B-A8AC16FA9FE2}", 2},
+        // A hot folder goes by its own name.
+        ResultRow{L"Hot Folders", 1, L"One", L"{5CEF680A-BF2E-49F5-B074-59D8CB29612D}", 8},
+        ResultRow{L"Server Templates\\Invoices", 1, L"Template", L"{E0DF66EB-957A-4C1D-B18E-6E4D55DBF3C9}", 20},
+        // These two share one kind: kept as is.
+        ResultRow{L"Server Templates\\Invoices\\Users", 1, L"Template", L"{5FBBCEF6-3CAC-4472-AA4D-36BCD0FC7DA3}", 23},
+        ResultRow{L"Server Templates\\Invoices\\Images", 1, L"File", L"{5FBBCEF6-3CAC-4472-AA4D-36BCD0FC7DA3}", 22},
+        ResultRow{L"Users", 1, L"Guest", L"{EF0A80E6-B3FF-4F37-9C1A-EC7DAF81D2F9}", 23},
+        ResultRow{L"Server Certificates", 1, L"Certificate Item", L"{EFB371E2-FC43-4D1A-A071-56F53151F423}", 7},
+        ResultRow{L"Engine Settings\\Listener Configuration", 3, L"Property Item", settingRow, 2},
+        ResultRow{L"Engine Settings\\AFP Encoder", 4, L"Property Item", settingRow, 2},
+        ResultRow{L"Engine Settings\\Private Fonts", 2, L"Private Font Item", L"{10158B7C-D952-49E4-8ACA-CD3C47E3A37D}",
+                  4},
+        ResultRow{L"Log", 3, L"Property Item", settingRow, 2},
+        ResultRow{L"Log\\Log Files", 2, L"Log Property Item", L"{0C63EBA1-9EF4-432B-AC5D-945439EA7937}", 16}));
 
 } // namespace
 } // namespace Acceptance
