@@ -8,10 +8,10 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
 PROGRAMDATA=$work "$sample" --hot-folders 3
-usual=$work/Brimlow/Data/HotFolders.db
 rm -f ./*.db
 
 # derive NAME SQL: the usual database, changed.
+usual=$work/Brimlow/Data/HotFolders.db
 derive() {
   cp "$usual" "$1.db"
   sqlite3 "$1.db" "PRAGMA page_size = 512; VACUUM; $2"
@@ -30,6 +30,23 @@ derive wal "PRAGMA journal_mode = WAL"
 derive no-table "DROP TABLE action"
 derive trigger "CREATE TRIGGER spoil AFTER UPDATE ON hot_folder BEGIN DELETE FROM hot_folder; END"
 { echo 'PRAGMA page_size = 512;'; sqlite3 "$usual" .dump; echo 'PRAGMA user_version = 1;'; } | sqlite3 utf8.db
+
+# The database of the applications and users.
+rm -r "$work/Brimlow"
+PROGRAMDATA=$work "$sample" ../../../../tools/sample-data/files
+usual=$work/Brimlow/Data/Tessaro.db
+derive tessaro ''
+derive tessaro-names "UPDATE application SET name = '..' WHERE id = 2; UPDATE template SET name = '..\\x' WHERE id = 1;
+  UPDATE resource_folder SET name = '' WHERE id = 1; UPDATE resource_file SET name = 'nul'"
+derive tessaro-keys "UPDATE application SET name_key = id, identity = x''; UPDATE template SET name = 'same'"
+derive tessaro-types "UPDATE application SET engine = 'text', name = 7; UPDATE access SET user = x'00D8', position = -1e300 WHERE position = 0;
+  UPDATE user SET username = 7, enabled = 'x' WHERE id = 1; UPDATE guest SET enabled = 'x'"
+derive tessaro-orphans "UPDATE template SET application = 99; UPDATE resource_file SET folder = -id;
+  INSERT INTO access VALUES (99, 0, 'x')"
+derive tessaro-no-move "DELETE FROM last_move; DELETE FROM content"
+derive tessaro-trigger "CREATE TRIGGER spoil AFTER UPDATE ON application BEGIN DELETE FROM application; END"
+derive tessaro-no-table "DROP TABLE resource_folder"
+
 head -c 2000 usual.db >cut.db
 head -c 100 usual.db >header.db
 : >empty.db
