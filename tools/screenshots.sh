@@ -69,7 +69,9 @@ picture dialog-grant-access --select "$invoices\\Users" --command 1057
 picture dialog-add-user --select 'Users' --command 1054
 picture dialog-edit-user --select 'Users' --row m_keller --command 1055
 picture dialog-edit-guest --select 'Users' --row Guest --command 1055
-picture dialog-certificate --select 'Server Certificates' --row render.example.com --command 1015
+# A certificate's row begins with its serial number, which is a random one.
+serial_number=$(timeout 120 wine "$console" --list --select 'Server Certificates' 2>/dev/null | grep -oE '[0-9A-F]{16,}' | head -n 1)
+picture dialog-certificate --select 'Server Certificates' --row "$serial_number" --command 1015
 install=(--select 'Server Certificates' --command 1012)
 picture wizard-certificate-type "${install[@]}"
 picture wizard-certificate-request-operation "${install[@]}" --press 310 --press 12324
