@@ -8,6 +8,7 @@
 #include "privateKey.h"
 
 #include "brimlow/system/AtomicFile.h"
+#include "brimlow/system/Exception.h"
 
 #include <gmock/gmock.h>
 
