@@ -116,6 +116,37 @@ TEST_F(ApplicationTree, expandedTwiceShowsTheChildrenOnceAndCollapsedNone)
     EXPECT_THAT(childrenIn(snapIn, templates.ID), IsEmpty());
 }
 
+// A console may ask about a node until it has let go of it.
+TEST_F(ApplicationTree, keepsItsNodesAsLongAsTheConsoleHasThem)
+{
+    addApplications({L"Letters"});
+    addFolder(L"Letters", L"Images");
+    BareSnapIn snapIn;
+    int asked = 0;
+    snapIn.console.nameSpace.onDelete = [&]
+    {
+        for (const SCOPEDATAITEM& child : snapIn.console.nameSpace.children)
+        {
+            SCOPEDATAITEM item{};
+            item.mask = SDI_STR;
+            item.lParam = child.lParam;
+            EXPECT_EQ(S_OK, snapIn.data->GetDisplayInfo(&item));
+            ++asked;
+        }
+    };
+    const SCOPEDATAITEM templates = snapIn.node(branch);
+    EXPECT_EQ(S_OK, snapIn.expand(templates.lParam, templates.ID));
+    EXPECT_EQ(S_OK, snapIn.data->Notify(snapIn.object(templates.lParam).Get(), MMCN_REFRESH, 0, 0));
+    EXPECT_LT(0, std::exchange(asked, 0));
+
+    const SCOPEDATAITEM letters = snapIn.node(nodeOf(L"Letters"));
+    EXPECT_EQ(S_OK, snapIn.expand(letters.lParam, letters.ID));
+    EXPECT_EQ(S_OK, snapIn.data->Notify(snapIn.object(letters.lParam).Get(), MMCN_REFRESH, 0, 0));
+    EXPECT_LT(0, std::exchange(asked, 0));
+    EXPECT_EQ(S_OK, snapIn.expand(letters.lParam, letters.ID));
+    EXPECT_LT(0, asked);
+}
+
 TEST_F(ApplicationTree, hasUsersEvenWhereTheFoldersCannotBeRead)
 {
     addApplications({L"Letters"});

@@ -1,3 +1,5 @@
+#include "frame/BareSnapIn.h"
+#include "frame/nodeData.h"
 #include "kit/DatabaseLock.h"
 #include "templates/TemplatesTest.h"
 
@@ -38,6 +40,23 @@ TEST_F(DeleteTemplate, asksNothingAndSelectsTheApplication)
     EXPECT_EQ(1u, recorder.calls(L"IConsole::SelectScopeItem").size());
     EXPECT_THAT(view().view().selectedRows(), testing::IsEmpty());
     EXPECT_EQ(letters, view().selected());
+}
+
+TEST_F(DeleteTemplate, takesTheRowAwayAndTellsTheViewsBeforeItSelects)
+{
+    BareSnapIn snapIn;
+    const auto bare = snapIn.makeView();
+    const SCOPEDATAITEM node = snapIn.node(letters);
+    ASSERT_EQ(S_OK, bare->component->Notify(snapIn.object(node.lParam).Get(), MMCN_SHOW, TRUE, node.ID));
+    ASSERT_EQ(2u, bare->console.results.rows.size());
+    const auto row = bare->object(bare->console.results.rows.front().lParam);
+    bare->console.updates.clear();
+    EXPECT_EQ(S_OK, bare->component->Notify(row.Get(), MMCN_DELETE, 0, 0));
+    ASSERT_EQ(1u, bare->console.results.rows.size());
+    EXPECT_EQ(L"reminder.kvd", bare->cell(bare->console.results.rows.front().lParam, 0));
+    ASSERT_EQ(1u, bare->console.updates.size());
+    EXPECT_EQ(guid(L"{27967510-9844-4A62-86F9-C98CBEBB952B}"), bare->console.updates.front().nodeType);
+    EXPECT_THAT(bare->console.selections, ElementsAre(node.ID));
 }
 
 TEST_F(DeleteTemplate, isSeenInEveryView)

@@ -225,6 +225,16 @@ TEST_F(RenameTemplate, thatAnotherConsoleRemovedIsReported)
     EXPECT_THAT(storedTemplates(L"Letters"), ElementsAre(L"reminder.kvd"));
 }
 
+TEST_F(RenameTemplate, toTheSameNameAsksTheLibraryForNothing)
+{
+    openAt(letters);
+    Tessaro::ServerTemplates templates;
+    templates.getAt(0).deleteTemplate(templates.getAt(0).getAt(0));
+    enter(caption, name, L"letter.kvd");
+    view().doubleClick(L"letter.kvd");
+    EXPECT_THAT(names(), ElementsAre(L"Users", L"reminder.kvd")) << "what is listed is read anew all the same";
+}
+
 // The menu "&Rename Template..." belongs to no node.
 TEST_F(RenameTemplate, hasACommandOfItsOwnThatNobodyRuns)
 {

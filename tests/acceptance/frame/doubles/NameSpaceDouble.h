@@ -3,6 +3,7 @@
 #include "frame/doubles/ComDouble.h"
 
 #include <algorithm>
+#include <functional>
 #include <vector>
 
 namespace Acceptance
@@ -34,6 +35,10 @@ class NameSpaceDouble final : public ComDouble<IConsoleNameSpace>
     HRESULT STDMETHODCALLTYPE DeleteItem(HSCOPEITEM item, long itself) override
     {
         deletions.push_back({item, itself != 0});
+        if (onDelete)
+        {
+            onDelete();
+        }
         std::erase_if(children, [item](const SCOPEDATAITEM& child) { return child.relativeID == item; });
         return S_OK;
     }
@@ -45,8 +50,13 @@ class NameSpaceDouble final : public ComDouble<IConsoleNameSpace>
         *cookie = any ? found->lParam : 0;
         return any ? S_OK : S_FALSE;
     }
-    HRESULT STDMETHODCALLTYPE SetItem(SCOPEDATAITEM*) override { return uncalled("SetItem"); }
-    HRESULT STDMETHODCALLTYPE GetItem(SCOPEDATAITEM*) override { return uncalled("GetItem"); }
+    HRESULT STDMETHODCALLTYPE SetItem(SCOPEDATAITEM*) override { return S_OK; }
+    // Every node counts as expanded.
+    HRESULT STDMETHODCALLTYPE GetItem(SCOPEDATAITEM* item) override
+    {
+        item->nState = MMC_SCOPE_ITEM_STATE_EXPANDEDONCE;
+        return S_OK;
+    }
     HRESULT STDMETHODCALLTYPE GetNextItem(HSCOPEITEM, HSCOPEITEM*, MMC_COOKIE*) override
     {
         return uncalled("GetNextItem");
@@ -62,6 +72,8 @@ class NameSpaceDouble final : public ComDouble<IConsoleNameSpace>
     // What is in the tree now, with the handles given.
     std::vector<SCOPEDATAITEM> children;
     HRESULT insertAnswer = S_OK;
+    // Called when something is deleted, while it is still in the tree.
+    std::function<void()> onDelete;
 };
 
 } // namespace Acceptance
