@@ -188,6 +188,21 @@ TEST_F(CertificateSubjectPage, leavesTheOtherSettingsAlone)
     EXPECT_EQ(textsOf(entries()), remembered());
 }
 
+// All nine are stored or none.
+TEST_F(CertificateSubjectPage, storesNothingWhereOneTextCannotBeStored)
+{
+    enter(entriesWith(308, L"a@example.com\uFFFE"));
+    robot.messageThat(
+        [](const MessageBoxSeen& box)
+        {
+            EXPECT_EQ(L"Import Certificate", box.caption);
+            EXPECT_NE(std::wstring::npos, box.text.find(L"CertInfo-Email")) << "names the setting";
+        });
+    lookAndCancel(CertificateWizard::subjectCaption, [](WizardWindow&) {});
+    runWizard();
+    EXPECT_FALSE(std::filesystem::exists(ServerFiles::configuration()));
+}
+
 TEST_F(CertificateSubjectPage, ofADamagedConfigurationFileSaysSoAndStartsEmpty)
 {
     const std::string damaged = "<configuration><appSettings>";
