@@ -1,5 +1,9 @@
 #include "TemporaryFolder.h"
 
+#ifdef _WIN32
+#include <windows.h>
+#endif
+
 #include <algorithm>
 #include <fstream>
 #include <iterator>
@@ -17,6 +21,58 @@ Core::String fromPath(const std::filesystem::path& path)
     const std::u8string bytes = path.u8string();
     return Core::String::fromUtf8({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
 }
+
+#ifdef _WIN32
+
+namespace
+{
+
+// The path outside Wine.
+std::wstring unixPath(const std::filesystem::path& path)
+{
+    using GetUnixFileName = char*(CDECL*)(LPCWSTR);
+    const auto getUnixFileName = reinterpret_cast<GetUnixFileName>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernel32"), "wine_get_unix_file_name")));
+    char* const name = getUnixFileName(path.c_str());
+    const std::wstring text = Core::String::fromUtf8(name).str();
+    HeapFree(GetProcessHeap(), 0, name);
+    return text;
+}
+
+void runOutside(const std::wstring& command)
+{
+    _wsystem((L"start /wait /unix " + command).c_str());
+}
+
+} // namespace
+
+// Wine has no calls of Windows that make and remove a link: CreateSymbolicLinkW only says that it did, and
+// RemoveDirectoryW removes what the link points to.
+FolderLink::FolderLink(const std::filesystem::path& target, const std::filesystem::path& link) : m_link(link)
+{
+    runOutside(L"/bin/ln -s " + unixPath(target) + L' ' + unixPath(link.parent_path()) + L'/' +
+               link.filename().wstring());
+}
+
+FolderLink::~FolderLink()
+{
+    runOutside(L"/bin/rm -f " + unixPath(m_link.parent_path()) + L'/' + m_link.filename().wstring());
+}
+
+#else
+
+FolderLink::FolderLink(const std::filesystem::path& target, const std::filesystem::path& link) : m_link(link)
+{
+    std::filesystem::create_directory_symlink(target, link);
+}
+
+FolderLink::~FolderLink()
+{
+    std::error_code ignored;
+    std::filesystem::remove(m_link, ignored);
+}
+
+#endif
 
 TemporaryFolder::TemporaryFolder()
     : m_folder(std::filesystem::temp_directory_path() / ("tessaro-test-" + std::to_string(std::random_device()())))

@@ -11,6 +11,19 @@
 std::filesystem::path toPath(const Core::String& text);
 Core::String fromPath(const std::filesystem::path& path);
 
+// A link to a folder, removed in the end if it is still there.
+class FolderLink
+{
+  public:
+    FolderLink(const std::filesystem::path& target, const std::filesystem::path& link);
+    FolderLink(const FolderLink&) = delete;
+    FolderLink& operator=(const FolderLink&) = delete;
+    ~FolderLink();
+
+  private:
+    std::filesystem::path m_link;
+};
+
 // An empty folder of its own for one test, removed afterwards with all that is in it.
 class TemporaryFolder
 {

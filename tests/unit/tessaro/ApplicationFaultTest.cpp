@@ -12,9 +12,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <thread>
 #include <vector>
 
 #ifndef _WIN32
@@ -258,6 +260,94 @@ TEST_F(ApplicationFaultTest, IsWholeWheneverTheDiskBecomesFull)
             const String message = refusal([&] { change.make(store); });
             return outcomeOf(number <= disk.operations(), message);
         });
+}
+
+TEST_F(ApplicationFaultTest, WaitsFiveSecondsForOtherPrograms)
+{
+    EXPECT_EQ(std::chrono::seconds(5), TessaroStore::machinePlace().database.busyTimeout);
+}
+
+TEST_F(ApplicationFaultTest, RefusesEveryChangeWhileAnotherProgramChanges)
+{
+    const State before = state();
+    Place place = TessaroStore::machinePlace();
+    place.database.busyTimeout = std::chrono::milliseconds(0);
+    ApplicationStore store(TessaroStore::instance(), place, Core::IO::FileTree::system());
+    OtherProgram other(place.database.path);
+    other.execute("BEGIN IMMEDIATE");
+    for (const Change& change : changes())
+    {
+        EXPECT_EQ(L"The database \"" + place.database.path + L"\" is in use by another program. Please try again.",
+                  refusal([&] { change.make(store); }))
+            << change.name;
+        EXPECT_EQ(before, state()) << change.name;
+    }
+}
+
+// Two programs, with one journal between them.
+TEST_F(ApplicationFaultTest, LosesNothingWhenTwoProgramsAddAndDeleteAtOnce)
+{
+    constexpr int each = 10;
+    const auto addAll = [this](const std::wstring& prefix)
+    {
+        TessaroStore records;
+        ApplicationStore store(records, TessaroStore::machinePlace(), Core::IO::FileTree::system());
+        ServerApplication application = store.get()->applications.at(0);
+        for (int number = 0; number < each; ++number)
+        {
+            store.addTemplate(application, m_template);
+            store.renameTemplate(application, L"new.xsl", prefix + std::to_wstring(number));
+            store.addFolder(application, prefix + L"folder");
+            store.removeFolder(application, prefix + L"folder");
+        }
+    };
+    // The other one adds a file of another name, so that neither is refused.
+    fs::copy_file(toPath(m_template), m_disk.outside().folder() / "other.xsl");
+    const auto addOthers = [this]
+    {
+        TessaroStore records;
+        ApplicationStore store(records, TessaroStore::machinePlace(), Core::IO::FileTree::system());
+        ServerApplication application = store.get()->applications.at(1);
+        for (int number = 0; number < each; ++number)
+        {
+            store.addTemplate(application, m_disk.outside().path(L"other.xsl"));
+            store.renameApplication(application, L"Other" + std::to_wstring(number));
+            store.renameTemplate(application, L"other.xsl", L"y" + std::to_wstring(number));
+        }
+    };
+    std::thread other(addOthers);
+    addAll(L"x");
+    other.join();
+    EXPECT_EQ(2 + each, applicationNamed(L"App").getTemplatesCount());
+    EXPECT_EQ(each, applicationNamed(L"Other9").getTemplatesCount());
+    const State now = state();
+    expectSettled();
+    EXPECT_EQ(now.files, m_disk.files()) << "nothing temporary is left";
+    for (int number = 0; number < each; ++number)
+    {
+        EXPECT_THAT(now.files, testing::Contains("App/x" + std::to_string(number) + "=new"));
+        EXPECT_THAT(now.files, testing::Contains("Other9/y" + std::to_string(number) + "=new"));
+    }
+}
+
+// A change reads the way down to what it changes, and no more.
+TEST_F(ApplicationFaultTest, ChangesCostWhatTheyChangeAndNotWhatIsStored)
+{
+    OtherProgram(TessaroStore::machinePlace().database.path)
+        .execute("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 1000)"
+                 " INSERT INTO application (name, name_key) SELECT 'more' || i, 'MORE' || i FROM n;"
+                 "INSERT INTO template (application, name, name_key)"
+                 " SELECT a.id, 't' || b.id, 'T' || b.id FROM application a JOIN application b ON b.id <= 10;"
+                 "INSERT INTO access SELECT id, 1, 'alice' FROM application");
+    ServerTemplates();
+    ApplicationStore store = ApplicationStore::machine();
+    for (const Change& change : changes())
+    {
+        FaultyDisk disk;
+        const int before = disk.reads();
+        change.make(store);
+        EXPECT_GT(120, disk.reads() - before) << change.name;
+    }
 }
 
 #ifndef _WIN32
