@@ -126,6 +126,14 @@ TEST_F(ResourceFolder, isRenamedWithItsFilesAndItsNodeToo)
     EXPECT_THAT(names(), ElementsAre(L"Images.txt"));
 }
 
+TEST_F(ResourceFolder, tellsTheTreeOfItsNewNameOnce)
+{
+    openAt(nodeOf(L"Invoices\\Images"));
+    EXPECT_TRUE(recorder.calls(L"IConsoleNameSpace::SetItem").empty()) << "showing a folder renames nothing";
+    renameTo(nodeOf(L"Invoices\\Images"), L"Pictures");
+    EXPECT_EQ(1u, recorder.calls(L"IConsoleNameSpace::SetItem").size());
+}
+
 TEST_F(ResourceFolder, isSelectedWhenItWasRenamed)
 {
     open();
@@ -175,6 +183,16 @@ TEST_F(ResourceFolder, isNotRenamedToWhatIsOnTheDisk)
     EXPECT_THAT(storedFolders(L"Invoices"), ElementsAre(L"Images", L"Texts", L"More"));
 }
 
+TEST_F(ResourceFolder, looksForTheNameWhereTheApplicationIsNow)
+{
+    open();
+    const auto node = view().node(nodeOf(L"Invoices\\Images"));
+    Tessaro::ServerTemplates().renameApplication(stored(L"Invoices"), L"Bills");
+    view().view().selectNode(node);
+    refuse(L"Texts", L"Folder already exists.");
+    view().runNodeCommand(nodeOf(L"Invoices\\Images"), rename);
+}
+
 TEST_F(ResourceFolder, isNotRenamedToWhatWindowsCannotHave)
 {
     openAt(nodeOf(L"Invoices\\Images"));
@@ -219,6 +237,17 @@ TEST_F(ResourceFolder, isDeletedWithItsFilesAndWithoutAQuestion)
     EXPECT_FALSE(isOnDisk(L"Invoices\\Images"));
     EXPECT_THAT(view().children(nodeOf(L"Invoices")), ElementsAre(L"Users", L"Texts", L"More"));
     EXPECT_EQ(nodeOf(L"Invoices"), view().selected());
+}
+
+TEST_F(ResourceFolder, selectsItsApplicationWhenItIsDeleted)
+{
+    open();
+    view().select(nodeOf(L"Invoices\\Images"));
+    recorder.forgetCalls();
+    view().view().runVerb(MMC_VERB_DELETE);
+    const auto selections = recorder.calls(L"IConsole::SelectScopeItem");
+    ASSERT_EQ(1u, selections.size());
+    EXPECT_EQ(S_OK, selections.front().result);
 }
 
 TEST_F(ResourceFolder, isDeletedFromTheListOfItsApplication)
