@@ -5,10 +5,12 @@
 #endif
 
 #include <algorithm>
+#include <chrono>
 #include <fstream>
 #include <iterator>
 #include <random>
 #include <stdexcept>
+#include <thread>
 
 std::filesystem::path toPath(const Core::String& text)
 {
@@ -39,9 +41,21 @@ std::wstring unixPath(const std::filesystem::path& path)
     return text;
 }
 
-void runOutside(const std::wstring& command)
+// Runs a command outside Wine, which may go on after the call, and waits until the path is there, or is not. Returns
+// false when that does not come.
+bool runOutside(const std::wstring& command, const std::filesystem::path& path, bool isThere)
 {
     _wsystem((L"start /wait /unix " + command).c_str());
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+    while ((GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES) != isThere)
+    {
+        if (std::chrono::steady_clock::now() > deadline)
+        {
+            return false;
+        }
+        std::this_thread::yield();
+    }
+    return true;
 }
 
 } // namespace
@@ -50,13 +64,20 @@ void runOutside(const std::wstring& command)
 // RemoveDirectoryW removes what the link points to.
 FolderLink::FolderLink(const std::filesystem::path& target, const std::filesystem::path& link) : m_link(link)
 {
-    runOutside(L"/bin/ln -s " + unixPath(target) + L' ' + unixPath(link.parent_path()) + L'/' +
-               link.filename().wstring());
+    if (!runOutside(L"/bin/ln -s " + unixPath(target) + L' ' + unixPath(link.parent_path()) + L'/' +
+                        link.filename().wstring(),
+                    link, true))
+    {
+        throw std::runtime_error("cannot make a link");
+    }
 }
 
 FolderLink::~FolderLink()
 {
-    runOutside(L"/bin/rm -f " + unixPath(m_link.parent_path()) + L'/' + m_link.filename().wstring());
+    if (GetFileAttributesW(m_link.c_str()) != INVALID_FILE_ATTRIBUTES)
+    {
+        runOutside(L"/bin/rm -f " + unixPath(m_link.parent_path()) + L'/' + m_link.filename().wstring(), m_link, false);
+    }
 }
 
 #else

@@ -38,7 +38,8 @@ class ApplicationOnWindows : public testing::Test
     }
 
     ApplicationDisk m_disk;
-    ServerApplication m_application;
+    // The system has an enumerator of the same name.
+    Tessaro::ServerApplication m_application;
 };
 
 TEST_F(ApplicationOnWindows, StaysAsItIsWhenAFileIsInUse)
