@@ -9,6 +9,7 @@
 
 #include <gmock/gmock.h>
 
+#include <cstdint>
 #include <filesystem>
 #include <ostream>
 #include <utility>
@@ -212,11 +213,12 @@ TEST_F(ImportTest, AHugeFileIsRefusedUnread)
 
 TEST_F(ImportTest, WhatFollowsTheContentUpToTheLargestSizeDoesNotMatter)
 {
+    constexpr std::uintmax_t largest = 10'485'760;
     m_folder.write(L"large.p12", corpusContent(L"ec"));
-    std::filesystem::resize_file(m_folder.folder() / "large.p12", 10 * 1024 * 1024);
+    std::filesystem::resize_file(m_folder.folder() / "large.p12", largest);
     m_store->importPKCS12(m_folder.path(L"large.p12"));
     EXPECT_THAT(stored(), ElementsAre(L"ec.example.com"));
-    std::filesystem::resize_file(m_folder.folder() / "large.p12", 10 * 1024 * 1024 + 1);
+    std::filesystem::resize_file(m_folder.folder() / "large.p12", largest + 1);
     EXPECT_THAT(refusal([&] { m_store->importPKCS12(m_folder.path(L"large.p12")); }).toUtf8(),
                 testing::HasSubstr("too large"));
 }

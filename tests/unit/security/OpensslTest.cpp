@@ -79,7 +79,7 @@ class OpensslTest : public SecurityTest
                        m_openssl.run("pkcs12 -in store.p12 -passin file:store.password -nocerts -noenc"));
     }
 
-    const OpensslCommand m_openssl;
+    OpensslCommand m_openssl;
 };
 
 TEST_F(OpensslTest, ReadsASelfSignedCertificateAndItsKey)
