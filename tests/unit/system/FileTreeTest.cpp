@@ -10,8 +10,11 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
+#include <string>
+#include <string_view>
 
 namespace
 {
@@ -76,6 +79,22 @@ TEST_F(FileTreeTest, CopiesIntoANewFileOnly)
     EXPECT_TRUE(FileTree::isNotFound(m_files.copy(m_folder.path(L"from"), m_folder.path(L"missing\\new"))));
     EXPECT_NE(0u, m_files.copy(fromPath(m_folder.folder()), m_folder.path(L"new")));
     EXPECT_THAT(m_folder.names(), ElementsAre(L"from", L"taken", L"to"));
+}
+
+TEST_F(FileTreeTest, CopiesWhatIsLargerThanTwoGigabytes)
+{
+    constexpr std::string_view end = "the end";
+    m_folder.write(L"large", "the beginning");
+    fs::resize_file(at("large"), (std::uintmax_t{1} << 31) + 1);
+    std::ofstream(at("large"), std::ios::binary | std::ios::app) << end;
+    EXPECT_EQ(0u, m_files.copy(m_folder.path(L"large"), m_folder.path(L"copy")));
+
+    EXPECT_EQ(fs::file_size(at("large")), fs::file_size(at("copy")));
+    std::ifstream copy(at("copy"), std::ios::binary);
+    copy.seekg(-static_cast<std::streamoff>(end.size()), std::ios::end);
+    std::string last(end.size(), ' ');
+    copy.read(last.data(), static_cast<std::streamsize>(last.size()));
+    EXPECT_EQ(end, last);
 }
 
 TEST_F(FileTreeTest, MakesNewFoldersOnly)
