@@ -34,6 +34,8 @@ class Fixtures:
 
     def nothing(self, _):
         """No file of the server's at all."""
+        # Who may use each of the applications: what the first one had in the beginning.
+        self.access = None
         for name in os.listdir(self.maker):
             path = os.path.join(self.maker, name)
             shutil.rmtree(path) if os.path.isdir(path) else os.remove(path)
@@ -76,7 +78,12 @@ class Fixtures:
             self.copy_first(database, 'application',
                             {'identity': 'randomblob(16)', 'name': '?2', 'name_key': 'upper(?2)'},
                             ((index + 1, f'Application {index}') for index in range(number)))
-            for table in ('template', 'resource_folder', 'access'):
+            if self.access is None:
+                self.access = database.execute('SELECT position, user FROM access WHERE application = 1').fetchall()
+            database.execute('DELETE FROM access')
+            database.executemany('INSERT INTO access (application, position, user) VALUES (?, ?, ?)',
+                                 ((index + 1, *entry) for index in range(number) for entry in self.access))
+            for table in ('template', 'resource_folder'):
                 database.execute(f'DELETE FROM {table} WHERE application > 1')
                 columns = [row[1] for row in database.execute(f'PRAGMA table_info({table})')]
                 copied = ', '.join(column for column in columns if column not in ('id', 'identity', 'application'))
