@@ -64,21 +64,18 @@ void ListBench::refresh(const char* when, std::function<void()> prepare)
     compare((title("refresh, ") + when).c_str(), m_size, m_repetitions, side(m_plugIn), side(m_lowest));
 }
 
-std::function<void()> ListBench::prepare(List& list, const Change& change)
+void ListBench::prepare(List& list, const Change& change)
 {
-    return [this, &list, &change]
+    // Shown before, it may list what the last run left.
+    m_stage.leave();
+    list.show();
+    list.select(list.middle());
+    m_answer.reset();
+    if (change.entered)
     {
-        // Shown before, it may list what the last run left.
-        m_stage.leave();
-        list.show();
-        list.select(list.middle());
-        m_answer.reset();
-        if (change.entered)
-        {
-            m_stage.frame().activate();
-            m_answer.emplace(*change.entered);
-        }
-    };
+        m_stage.frame().activate();
+        m_answer.emplace(*change.entered);
+    }
 }
 
 void ListBench::change(const Change& change)
@@ -93,18 +90,18 @@ void ListBench::change(const Change& change)
         }
         change.least();
     };
-    const auto side = [&](List& list, std::function<void()> act)
+    const auto checkAndRestore = [&]
     {
-        return Side{.act = std::move(act),
-                    .before = prepare(list, change),
-                    .after = [&]
-                    {
-                        m_plugIn.expectRows(change.rows);
-                        m_restore();
-                    }};
+        m_plugIn.expectRows(change.rows);
+        m_restore();
     };
-    compare(title(change.what).c_str(), m_size, m_repetitions, side(m_plugIn, [&] { change.command(m_plugIn); }),
-            side(m_lowest, [this] { m_lowest.refresh(); }));
+    compare(title(change.what).c_str(), m_size, m_repetitions,
+            {.act = [&] { change.command(m_plugIn); },
+             .before = [&] { prepare(m_plugIn, change); },
+             .after = checkAndRestore},
+            {.act = [this] { m_lowest.refresh(); },
+             .before = [&] { prepare(m_lowest, change); },
+             .after = checkAndRestore});
     m_answer.reset();
     node.change = nullptr;
 }

@@ -52,7 +52,7 @@ class ListBench
   private:
     std::string title(const char* what) const { return m_name + ": " + what; }
     std::function<void()> expect(std::size_t rows);
-    std::function<void()> prepare(List& list, const Change& change);
+    void prepare(List& list, const Change& change);
 
     std::string m_name;
     FloorNode m_floor;

@@ -339,7 +339,7 @@ TEST_F(ApplicationFaultTest, ChangesCostWhatTheyChangeAndNotWhatIsStored)
                  "INSERT INTO template (application, name, name_key)"
                  " SELECT a.id, 't' || b.id, 'T' || b.id FROM application a JOIN application b ON b.id <= 10;"
                  "INSERT INTO access SELECT id, 1, 'alice' FROM application");
-    ServerTemplates();
+    ServerTemplates().getCount();
     ApplicationStore store = ApplicationStore::machine();
     for (const Change& change : changes())
     {

@@ -97,7 +97,7 @@ TEST_F(ApplicationLinksTest, AJournalIsNotFollowedThroughThem)
         journal.put(unit).put('\0');
     }
     journal.close();
-    ServerTemplates();
+    ServerTemplates().getCount();
     EXPECT_FALSE(fs::exists(m_disk.data() / "Tessaro.moving"));
     expectNothingElsewhereChanged();
 }
