@@ -127,8 +127,8 @@ class SystemFileTree final : public FileTree
     SystemError move(const String& from, const String& to) const override
     {
         // Unlike rename, this refuses a name that is taken.
-        return resultOf(renameat2(AT_FDCWD, systemPath(from).c_str(), AT_FDCWD, systemPath(to).c_str(),
-                                  RENAME_NOREPLACE));
+        return resultOf(
+            renameat2(AT_FDCWD, systemPath(from).c_str(), AT_FDCWD, systemPath(to).c_str(), RENAME_NOREPLACE));
     }
 
     bool remove(const String& path) const override

@@ -114,9 +114,9 @@ class SystemFileTree final : public FileTree
 
     SystemError copy(const String& from, const String& to) const override
     {
-        const platform::FileHandle source(
-            CreateFileW(extendedPath(from).c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                        nullptr, OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+        const platform::FileHandle source(CreateFileW(extendedPath(from).c_str(), GENERIC_READ,
+                                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                                      OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
         if (!source)
         {
             return GetLastError();
