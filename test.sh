@@ -1,80 +1,111 @@
 #!/usr/bin/env bash
-# Runs every check and every test: the form of the sources, the libraries and rules natively under the sanitizers, then
-# everything under Wine. Ends with "N passed, N failed" and exits 0 only when nothing failed.
+# Runs every check and every test: the form of the sources, the libraries and rules natively under the sanitizers, and
+# everything under Wine. Prints the ten slowest tests, ends with "N passed, N failed" and exits 0 only when nothing
+# failed.
+#
+# Most of their time the tests wait for windows and services, so they run in lanes side by side, each with a display and
+# a Wine prefix of its own, which means its own registry, services and files.
 set -uo pipefail
 cd "$(dirname "$0")"
+# shellcheck source=tools/wine.sh
+. tools/wine.sh
 
-passed=0
-failed=0
 results=$PWD/out/test-results
 rm -rf "$results"
 mkdir -p "$results"
 
-# verdict NAME COMMAND…: a check that passes or fails as a whole.
-verdict() {
-  local name=$1
+# report NAME PASSED FAILED [TROUBLE]
+report() {
+  echo "$2 $3" >"$results/$1.count"
+  local mark=ok
+  [ "$3" -eq 0 ] || mark=FAILED
+  printf '  %-7s %5d:%02d  %s: %d passed%s\n' "$mark" $((SECONDS / 60)) $((SECONDS % 60)) "$1" "$2" "${4:+$'\n'$4}"
+}
+
+# check NAME COMMAND…: passes or fails as a whole.
+check() {
+  local name=$1 log=$results/$1.log
   shift
-  if "$@" >"$results/$name.log" 2>&1; then
-    passed=$((passed + 1))
-    echo "  ok      $name"
+  if "$@" >"$log" 2>&1; then
+    report "$name" 1 0
   else
-    failed=$((failed + 1))
-    echo "  FAILED  $name"
-    tail -n 60 "$results/$name.log"
+    report "$name" 0 1 "$(tail -n 60 "$log")"
+    return 1
   fi
 }
 
 # tests NAME SECONDS COMMAND…: a GoogleTest program, its cases counted. One that dies counts as a failed case more.
 tests() {
-  local name=$1 seconds=$2 log=$results/$1.log status ok bad
+  local name=$1 seconds=$2 log=$results/$1.log status ok bad trouble=
   shift 2
-  echo "  $name"
   timeout --kill-after=10 "$seconds" "$@" </dev/null >"$log" 2>&1
   status=$?
   ok=$(grep -c '^\[       OK \]' "$log")
   bad=$(grep -cE '^\[  FAILED  \] [^ ]+ \(' "$log")
   if ! grep -q '^\[==========\].*ran\.' "$log" || { [ "$status" -ne 0 ] && [ "$bad" -eq 0 ]; } || [ $((ok + bad)) -eq 0 ]; then
     bad=$((bad + 1))
-    echo "  FAILED  $name ended with status $status before its time:"
-    tail -n 40 "$log"
+    trouble="ended with status $status before its time:"$'\n'$(tail -n 40 "$log")
   elif [ "$bad" -gt 0 ]; then
-    grep -E '^\[  FAILED  \] [^ ]+ \(' "$log"
-    grep -vE '^\[( *(OK|RUN) *|-+|=+)\]' "$log" | tail -n 200
+    trouble=$(grep -E '^\[  FAILED  \] [^ ]+ \(' "$log"; grep -vE '^\[( *(OK|RUN) *|-+|=+)\]' "$log" | tail -n 200)
   fi
-  passed=$((passed + ok))
-  failed=$((failed + bad))
+  report "$name" "$ok" "$bad" "$trouble"
+}
+
+# A prefix for this lane with the plug-in registered in it.
+enter_wine() {
+  unset DISPLAY
+  use_display
+  trap stop_wine EXIT
+  copy_prefix out/test-prefix "$PWD/out/test-prefix-$1"
+  # A service that an earlier run left behind would answer for the new one.
+  wine out/windows-x64/TSvcStandIn.exe uninstall >/dev/null 2>&1
+  check "register-$1" wine regsvr32 /s "$(windows_path out/windows-x64/TMgmt.dll)"
+}
+
+sources_lane() {
+  check lint nice tools/lint.sh
+  check bitmaps python3 tools/check-bitmaps.py
+}
+
+native_lane() {
+  tests UnitTests-native 900 out/native/UnitTests
+}
+
+# Only the tests of the restart and of the stand-in itself use the server's default port, which all lanes share.
+programs_lane() {
+  enter_wine programs
+  local program
+  for program in UnitTests PluginTests HostTests WindowTests StandInTests; do
+    tests "$program" 900 wine "out/windows-x64/$program.exe"
+  done
+  tests AcceptanceTests-restart 300 wine out/windows-x64/AcceptanceTests.exe --gtest_filter='Restart.*'
+}
+
+acceptance_lane() {
+  enter_wine "acceptance-$1"
+  GTEST_TOTAL_SHARDS=2 GTEST_SHARD_INDEX=$1 \
+    tests "AcceptanceTests-$1" 1500 wine out/windows-x64/AcceptanceTests.exe --gtest_filter='-Restart.*'
 }
 
 finish() {
-  echo "$passed passed, $failed failed"
-  [ "$failed" -eq 0 ]
+  cat "$results"/*.log | sed -nE 's/^\[       OK \] ([^ ]+) \(([0-9]+) ms\)$/\2 ms  \1/p' | sort -rn >"$results/slowest.txt"
+  echo 'The slowest ten tests:'
+  head -n 10 "$results/slowest.txt" | sed 's/^/  /'
+  awk '{ passed += $1; failed += $2 } END { print passed " passed, " failed " failed"; exit failed > 0 }' "$results"/*.count
   exit
 }
 
-tools/setup.sh || { failed=1; finish; }
-echo 'Building'
-verdict build-native ./build.sh native
-verdict build-windows ./build.sh windows-x64
-[ "$failed" -eq 0 ] || finish
-
-echo 'Checking the sources'
-verdict lint tools/lint.sh
-verdict bitmaps python3 tools/check-bitmaps.py
-
-echo 'Testing natively, under the address and undefined-behaviour sanitizers'
-tests UnitTests-native 900 out/native/UnitTests
-
-echo 'Testing under Wine'
-# shellcheck source=tools/wine.sh
-. tools/wine.sh
+check setup tools/setup.sh || finish
+check build-windows ./build.sh windows-x64 || finish
+check build-native ./build.sh native || finish
 unset DISPLAY
 use_display
-trap stop_wine EXIT
 use_prefix "$PWD/out/test-prefix"
-# A service that an earlier run left behind would answer for the new one.
-wine out/windows-x64/TSvcStandIn.exe uninstall >/dev/null 2>&1
-verdict register wine regsvr32 /s "$(windows_path out/windows-x64/TMgmt.dll)"
-for program in UnitTests PluginTests HostTests WindowTests StandInTests AcceptanceTests; do
-  tests "$program" 1200 wine "out/windows-x64/$program.exe"
-done
+stop_wine
+sources_lane &
+native_lane &
+programs_lane &
+acceptance_lane 0 &
+acceptance_lane 1 &
+wait
 finish

@@ -29,3 +29,30 @@ function(tm_program name)
     endif()
   endif()
 endfunction()
+
+# Gives the files of a test program to the compiler folder by folder, some at a time: nearly all that compiling a test
+# takes is reading GoogleTest's and the system's headers.
+function(tm_unite_by_folder name)
+  set(together 8)
+  get_target_property(sources ${name} SOURCES)
+  list(FILTER sources INCLUDE REGEX "\\.cpp$")
+  foreach(source IN LISTS sources)
+    cmake_path(ABSOLUTE_PATH source BASE_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR})
+    cmake_path(RELATIVE_PATH source BASE_DIRECTORY ${PROJECT_SOURCE_DIR} OUTPUT_VARIABLE short)
+    cmake_path(GET short PARENT_PATH folder)
+    string(MAKE_C_IDENTIFIER "${folder}" group)
+    list(LENGTH ${group} earlier)
+    list(APPEND ${group} ${source})
+    math(EXPR batch "${earlier} / ${together}")
+    set_source_files_properties(${source} TARGET_DIRECTORY ${name} PROPERTIES UNITY_GROUP ${group}_${batch})
+  endforeach()
+  set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
+endfunction()
+
+# A program of tests. Whole folders of them are compiled at once, and not optimized: they are built more often than run.
+function(tm_tests name)
+  tm_program(${name} ${ARGN})
+  target_compile_options(${name} PRIVATE -O0)
+  # A deferred call sees its arguments evaluated only when it is made.
+  cmake_language(EVAL CODE "cmake_language(DEFER CALL tm_unite_by_folder ${name})")
+endfunction()

@@ -12,7 +12,6 @@ namespace StandIn
 namespace
 {
 
-constexpr DWORD pollInterval = 50;
 constexpr DWORD endTimeout = 30'000;
 
 SERVICE_STATUS queryStatus(const platform::ServiceHandle& service)

@@ -9,6 +9,8 @@ namespace StandIn
 {
 
 inline constexpr wchar_t serviceName[] = L"KV Tessaro";
+// Milliseconds between two looks at a service whose state is to change.
+inline constexpr DWORD pollInterval = 50;
 
 // The service manager's database of this machine. Throws Core::IOException.
 platform::ServiceHandle openServiceManager(DWORD access);

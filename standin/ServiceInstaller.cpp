@@ -11,7 +11,6 @@ namespace
 {
 
 constexpr DWORD deleteTimeout = 30'000;
-constexpr DWORD pollInterval = 50;
 
 std::wstring programPath()
 {

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Checks the form of our sources: clang-format on all, clang-tidy on what changed since the last clean run.
+# Checks the form of our sources: clang-format on all, clang-tidy on the folders that changed since they were last clean.
 # Needs both builds configured. Exits 1 with what to do when something is found.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -24,36 +24,33 @@ if git grep -nE '\.Attach\(' -- '*.cpp' '*.h'; then
   exit 1
 fi
 
-stamps=out/lint
-mkdir -p "$stamps"
+# clang-tidy takes seconds for the system's headers, so the sources of a folder are looked at together, through one file
+# that includes them all. Two of them that define the same name do not go together: it is a second copy or wants a name
+# of its own.
 newest_header=$(find . -path ./out -prune -o \( -name '*.h' -o -name .clang-tidy \) -printf '%T@ %p\n' | sort -rn | head -n 1 | cut -d' ' -f2)
+export newest_header
 
+# check GROUP [ARGUMENT…]: one line of the list that lint-groups.py prints.
 check() {
-  local preset=$1 source=$2 stamp report
-  shift 2
-  stamp=$stamps/$preset/$source
-  if [ "$stamp" -nt "$source" ] && [ "$stamp" -nt "$newest_header" ]; then return 0; fi
-  if report=$(clang-tidy --quiet -p "out/$preset" "$@" "$source" 2>/dev/null); then
-    mkdir -p "$(dirname "$stamp")"
-    touch "$stamp"
+  local group=$1 report
+  shift
+  if [ "$group.clean" -nt "$group" ] && [ "$group.clean" -nt "$newest_header" ] &&
+    [ -z "$(sed -n 's/^#include "\(.*\)".*/\1/p' "$group" | xargs -d '\n' -I{} find {} -newer "$group.clean")" ]; then
+    return 0
+  fi
+  if report=$(clang-tidy --quiet -p "$(dirname "$group")" "$@" "$group" 2>/dev/null); then
+    touch "$group.clean"
   else
     echo "$report"
     return 1
   fi
 }
-export stamps newest_header
 export -f check
 
-# Every source of a product once: natively where it is built natively, else as Windows sees it, which takes clang-tidy
-# some seconds a file. Tests are looked at where they are built natively.
-list() { python3 -c 'import json,sys,os
-for entry in json.load(open(f"out/{sys.argv[1]}/compile_commands.json")):
-    file = os.path.relpath(entry["file"])
-    if file.endswith(".cpp") and not file.startswith(("..", "out/")): print(file)' "$1" | sort -u; }
-list native >"$stamps/native.list"
-list windows-x64 | grep -v '^tests/' | comm -23 - "$stamps/native.list" >"$stamps/windows.list"
+# Every source of a product once: natively where it is built natively, else as Windows sees it. Tests are looked at where
+# they are built natively.
 failed=0
-xargs -a "$stamps/native.list" -P "$(nproc)" -I{} bash -c 'check native {}' || failed=1
-xargs -a "$stamps/windows.list" -P "$(nproc)" -I{} bash -c \
-  "check windows-x64 {} --extra-arg=--target=x86_64-w64-mingw32 ${windows_arguments[*]}" || failed=1
+python3 tools/lint-groups.py native | xargs -P "$(nproc)" -I{} bash -c 'check {}' || failed=1
+python3 tools/lint-groups.py windows-x64 | xargs -P "$(nproc)" -I{} bash -c \
+  "check {} --extra-arg=--target=x86_64-w64-mingw32 ${windows_arguments[*]}" || failed=1
 exit $failed

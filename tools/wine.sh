@@ -1,5 +1,6 @@
 # To be sourced. How this project runs Windows programs: Wine, 64-bit, in a private prefix, on a display.
 #   use_prefix FOLDER   makes the prefix if it is not there and works in it
+#   copy_prefix A B     makes B from the prefix A, which nobody uses, if it is not there, and works in it
 #   keep_services       keeps the prefix's services running between programs
 #   use_display         takes the display of the session, or starts one without a screen
 
@@ -15,7 +16,6 @@ use_display() {
   export DISPLAY=:$display
 }
 
-# Makes a prefix once; others are copied from it, which takes a second in place of twenty.
 use_prefix() {
   export WINEPREFIX=$1
   [ -e "$WINEPREFIX/ready" ] && return
@@ -28,6 +28,14 @@ use_prefix() {
   wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1
   wineserver -w
   touch "$WINEPREFIX/ready"
+}
+
+# Takes a second in place of the twenty of a new one.
+copy_prefix() {
+  export WINEPREFIX=$2
+  [ -e "$WINEPREFIX/ready" ] && return
+  rm -rf "$WINEPREFIX"
+  cp -a "$1" "$WINEPREFIX"
 }
 
 # Services end with the last ordinary program of a prefix. This one waits for input that never comes, until stop_wine.

@@ -3,6 +3,7 @@
 #include "CallGuard.h"
 #include "console/host/Registration.h"
 #include "console/host/Trace.h"
+#include "copyOf.h"
 #include "describe.h"
 #include "platform/mmc.h"
 
@@ -19,13 +20,6 @@ std::wstring readText(ISnapinAbout& about, HRESULT (STDMETHODCALLTYPE ISnapinAbo
     platform::TaskString text;
     const HRESULT result = (about.*get)(text.put());
     return SUCCEEDED(result) && text ? std::wstring(text.get()) : std::wstring();
-}
-
-platform::Bitmap copyOf(HBITMAP bitmap)
-{
-    // The snap-in keeps its own.
-    return platform::Bitmap(bitmap == nullptr ? nullptr
-                                              : static_cast<HBITMAP>(CopyImage(bitmap, IMAGE_BITMAP, 0, 0, 0)));
 }
 
 void read(ISnapinAbout& about, AboutInformation& information)

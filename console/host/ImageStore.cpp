@@ -1,5 +1,7 @@
 #include "ImageStore.h"
 
+#include "copyOf.h"
+
 #include <shellapi.h>
 
 #include <new>
@@ -9,12 +11,6 @@ namespace Console
 
 namespace
 {
-
-platform::Bitmap copyOf(HBITMAP bitmap)
-{
-    // Adding with a mask colour changes the source bitmap's background to black; the snap-in's stays as it is.
-    return platform::Bitmap(static_cast<HBITMAP>(CopyImage(bitmap, IMAGE_BITMAP, 0, 0, 0)));
-}
 
 platform::Icon stockIcon(SHSTOCKICONID id, UINT size)
 {
@@ -78,6 +74,7 @@ bool ImageStore::replace(int index, HICON icon, bool small, bool large)
 
 int ImageStore::addStrips(HBITMAP small, HBITMAP large, COLORREF mask)
 {
+    // Adding with a mask colour changes the source bitmap's background to black; the snap-in's stays as it is.
     const platform::Bitmap smallCopy = copyOf(small);
     const platform::Bitmap largeCopy = copyOf(large);
     const int before = ImageList_GetImageCount(m_small.get());

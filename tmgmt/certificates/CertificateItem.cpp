@@ -5,7 +5,6 @@
 #include "brimlow/security/CertStore.h"
 #include "tmgmt/certificates/CertificateDlg.h"
 #include "tmgmt/certificates/reportFailure.h"
-#include "tmgmt/snapin/ItemAccess.h"
 #include "tmgmt/ui/FilePicker.h"
 
 namespace TMgmt
@@ -16,8 +15,7 @@ using Security::CertStore;
 using Security::SmartPtr;
 
 CertificateItem::CertificateItem(const CSnapInItem& parent, const Certificate& certificate, unsigned index)
-    : Item(ResultNode{.displayName = L"Certificate Item", .image = 7}),
-      m_parent(parent.cookie()),
+    : DeletableRow(parent, ResultNode{.displayName = L"Certificate Item", .image = 7}),
       m_issuer(certificate.getIssuerCN()),
       m_serialNumber(certificate.getSerialNumber()),
       m_subject(certificate.getSubjectCN()),
@@ -51,7 +49,7 @@ HRESULT CertificateItem::Command(long command, Console& console, DATA_OBJECT_TYP
     case ID_CERTIFICATE_PROPERTIES:
         return showProperties();
     default:
-        return Item::Command(command, console, type);
+        return DeletableRow::Command(command, console, type);
     }
 }
 
@@ -60,20 +58,9 @@ HRESULT CertificateItem::OnDblClick(Console&)
     return showProperties();
 }
 
-HRESULT CertificateItem::OnSelect(bool, bool isSelected, Console& console)
-{
-    return enableVerb(MMC_VERB_DELETE, isSelected, console);
-}
-
 HRESULT CertificateItem::OnDelete(Console& console)
 {
     return uninstall(console);
-}
-
-HRESULT CertificateItem::OnViewChange(LPARAM, LPARAM, Console& console)
-{
-    console.updateRow(*this);
-    return S_OK;
 }
 
 HRESULT CertificateItem::uninstall(Console& console)
@@ -90,7 +77,7 @@ HRESULT CertificateItem::uninstall(Console& console)
         return E_FAIL;
     }
     // The list lets this row go, but the caller holds it.
-    console.refreshResultList(*itemOfCookie(m_parent));
+    console.refreshResultList(*lister());
     return S_OK;
 }
 

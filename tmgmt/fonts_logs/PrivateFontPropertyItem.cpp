@@ -4,15 +4,12 @@
 #include "tmgmt/fonts_logs/PrivateFontsFile.h"
 #include "tmgmt/frame/yesOrNo.h"
 #include "tmgmt/settings/RestartPreference.h"
-#include "tmgmt/snapin/ItemAccess.h"
 
 namespace TMgmt
 {
 
 PrivateFontPropertyItem::PrivateFontPropertyItem(const CSnapInItem& parent, PrivateFont font)
-    : Item(ResultNode{.displayName = L"Private Font Item", .image = 4}),
-      m_parent(parent.cookie()),
-      m_font(std::move(font))
+    : DeletableRow(parent, ResultNode{.displayName = L"Private Font Item", .image = 4}), m_font(std::move(font))
 {
 }
 
@@ -35,7 +32,7 @@ const wchar_t* PrivateFontPropertyItem::GetResultPaneColInfo(int column)
 
 HRESULT PrivateFontPropertyItem::Command(long command, Console& console, DATA_OBJECT_TYPES type)
 {
-    return command == ID_EDIT_PRIVATE_FONT ? edit(console) : Item::Command(command, console, type);
+    return command == ID_EDIT_PRIVATE_FONT ? edit(console) : DeletableRow::Command(command, console, type);
 }
 
 HRESULT PrivateFontPropertyItem::OnDblClick(Console& console)
@@ -43,21 +40,10 @@ HRESULT PrivateFontPropertyItem::OnDblClick(Console& console)
     return edit(console);
 }
 
-HRESULT PrivateFontPropertyItem::OnSelect(bool, bool isSelected, Console& console)
-{
-    return enableVerb(MMC_VERB_DELETE, isSelected, console);
-}
-
 HRESULT PrivateFontPropertyItem::OnDelete(Console& console)
 {
     deletePrivateFont(fontKey(m_font));
     showChange(console);
-    return S_OK;
-}
-
-HRESULT PrivateFontPropertyItem::OnViewChange(LPARAM, LPARAM, Console& console)
-{
-    console.updateRow(*this);
     return S_OK;
 }
 
@@ -86,8 +72,8 @@ HRESULT PrivateFontPropertyItem::edit(Console& console)
 void PrivateFontPropertyItem::showChange(Console& console)
 {
     // The node's own number stands where a handle of the console's belongs, so that nothing is selected: kept as is.
-    console.selectScopeItem(m_parent);
-    console.refreshResultList(*itemOfCookie(m_parent));
+    console.selectScopeItem(listerCookie());
+    console.refreshResultList(*lister());
     if (readRestartPreference())
     {
         RestartServerService();

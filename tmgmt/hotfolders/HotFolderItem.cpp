@@ -5,15 +5,13 @@
 #include "tmgmt/frame/yesOrNo.h"
 #include "tmgmt/hotfolders/EditHotFolderDlg.h"
 #include "tmgmt/settings/RestartPreference.h"
-#include "tmgmt/snapin/ItemAccess.h"
 
 namespace TMgmt
 {
 
 HotFolderItem::HotFolderItem(const CSnapInItem& parent, const HotFolders::HotFolder& hotFolder)
-    : Item(ResultNode{.displayName = hotFolder.getDisplayName().c_str(), .image = 8}),
-      m_hotFolder(hotFolder),
-      m_parent(parent.cookie())
+    : DeletableRow(parent, ResultNode{.displayName = hotFolder.getDisplayName().c_str(), .image = 8}),
+      m_hotFolder(hotFolder)
 {
 }
 
@@ -37,7 +35,7 @@ const wchar_t* HotFolderItem::GetResultPaneColInfo(int column)
 
 HRESULT HotFolderItem::Command(long command, Console& console, DATA_OBJECT_TYPES type)
 {
-    return command == ID_HOT_FOLDER_PROPERTIES ? edit(console) : Item::Command(command, console, type);
+    return command == ID_HOT_FOLDER_PROPERTIES ? edit(console) : DeletableRow::Command(command, console, type);
 }
 
 // A view of its own, which a row of a list is never asked for in a console.
@@ -55,21 +53,10 @@ HRESULT HotFolderItem::OnDblClick(Console& console)
     return edit(console);
 }
 
-HRESULT HotFolderItem::OnSelect(bool, bool isSelected, Console& console)
-{
-    return enableVerb(MMC_VERB_DELETE, isSelected, console);
-}
-
 HRESULT HotFolderItem::OnDelete(Console& console)
 {
     HotFolders::HotFolderCollection().removeFolder(m_hotFolder);
-    console.refreshResultList(*itemOfCookie(m_parent));
-    return S_OK;
-}
-
-HRESULT HotFolderItem::OnViewChange(LPARAM, LPARAM, Console& console)
-{
-    console.updateRow(*this);
+    console.refreshResultList(*lister());
     return S_OK;
 }
 
@@ -82,13 +69,8 @@ HRESULT HotFolderItem::edit(Console& console)
     }
     // The row shows what was entered from now on, even when it cannot be stored: kept as is.
     m_hotFolder = editor.hotFolder;
-    try
+    if (!accepted([&] { HotFolders::HotFolderCollection().updateFolder(m_hotFolder); }))
     {
-        HotFolders::HotFolderCollection().updateFolder(m_hotFolder);
-    }
-    catch (const Core::Exception& exception)
-    {
-        reportRefusal(exception);
         return S_OK;
     }
     writeRestartPreference(editor.restart);

@@ -49,19 +49,16 @@ HRESULT HotFoldersCollectionItem::OnSelect(bool, bool isSelected, Console& conso
 HotFoldersCollectionItem::Rows HotFoldersCollectionItem::readRows()
 {
     Rows rows;
-    try
-    {
-        const HotFolders::HotFolderCollection hotFolders;
-        rows.reserve(static_cast<std::size_t>(hotFolders.getCount()));
-        for (int index = 0; index < hotFolders.getCount(); ++index)
+    accepted(
+        [&]
         {
-            rows.emplace_back(new HotFolderItem(*this, hotFolders.getAt(index)));
-        }
-    }
-    catch (const Core::Exception& exception)
-    {
-        reportRefusal(exception);
-    }
+            const HotFolders::HotFolderCollection hotFolders;
+            rows.reserve(static_cast<std::size_t>(hotFolders.getCount()));
+            for (int index = 0; index < hotFolders.getCount(); ++index)
+            {
+                rows.emplace_back(new HotFolderItem(*this, hotFolders.getAt(index)));
+            }
+        });
     return rows;
 }
 
@@ -72,13 +69,8 @@ HRESULT HotFoldersCollectionItem::add(Console& console)
     {
         return S_OK;
     }
-    try
+    if (!accepted([&] { HotFolders::HotFolderCollection().addNewFolder(editor.hotFolder); }))
     {
-        HotFolders::HotFolderCollection().addNewFolder(editor.hotFolder);
-    }
-    catch (const Core::Exception& exception)
-    {
-        reportRefusal(exception);
         return S_OK;
     }
     console.selectScopeItem(GetScopeData().ID);

@@ -3,7 +3,6 @@
 #include "brimlow/tessaro/ServerTemplates.h"
 #include "tmgmt/frame/reportRefusal.h"
 #include "tmgmt/settings/RestartPreference.h"
-#include "tmgmt/snapin/ItemAccess.h"
 #include "tmgmt/templates/EditTemplateDlg.h"
 #include "tmgmt/templates/rules/names.h"
 
@@ -12,8 +11,8 @@ namespace TMgmt
 
 TemplatePropertyItem::TemplatePropertyItem(const CSnapInItem& applicationNode,
                                            const Tessaro::ServerApplication& application, const Tessaro::Template& file)
-    : Item(ResultNode{.displayName = L"Template", .image = templateImage(file.getDisplayName())}),
-      m_applicationNode(applicationNode.cookie()),
+    : DeletableRow(applicationNode,
+                   ResultNode{.displayName = L"Template", .image = templateImage(file.getDisplayName())}),
       m_application(application),
       m_template(file),
       m_name(file.getDisplayName())
@@ -27,7 +26,7 @@ const wchar_t* TemplatePropertyItem::GetResultPaneColInfo(int column)
 
 HRESULT TemplatePropertyItem::Command(long command, Console& console, DATA_OBJECT_TYPES type)
 {
-    return command == ID_EDIT_TEMPLATE ? rename(console) : Item::Command(command, console, type);
+    return command == ID_EDIT_TEMPLATE ? rename(console) : DeletableRow::Command(command, console, type);
 }
 
 HRESULT TemplatePropertyItem::OnDblClick(Console& console)
@@ -35,33 +34,21 @@ HRESULT TemplatePropertyItem::OnDblClick(Console& console)
     return rename(console);
 }
 
-HRESULT TemplatePropertyItem::OnSelect(bool, bool isSelected, Console& console)
-{
-    return enableVerb(MMC_VERB_DELETE, isSelected, console);
-}
-
 HRESULT TemplatePropertyItem::OnDelete(Console& console)
 {
-    try
+    if (!accepted(
+            [&]
+            {
+                Tessaro::ServerTemplates templates;
+                m_application.deleteTemplate(m_template);
+                templates.updateApplication(m_application);
+            }))
     {
-        Tessaro::ServerTemplates templates;
-        m_application.deleteTemplate(m_template);
-        templates.updateApplication(m_application);
-    }
-    catch (const Core::Exception& exception)
-    {
-        reportRefusal(exception);
         return S_OK;
     }
-    const auto applicationNode = itemOfCookie(m_applicationNode);
+    const auto applicationNode = lister();
     console.refreshResultList(*applicationNode);
     console.selectScopeItem(applicationNode->GetScopeData().ID);
-    return S_OK;
-}
-
-HRESULT TemplatePropertyItem::OnViewChange(LPARAM, LPARAM, Console& console)
-{
-    console.updateRow(*this);
     return S_OK;
 }
 
@@ -72,19 +59,19 @@ HRESULT TemplatePropertyItem::rename(Console& console)
     {
         return S_OK;
     }
-    try
+    if (!accepted(
+            [&]
+            {
+                if (dialog.name != m_name)
+                {
+                    m_application.renameTemplate(m_template,
+                                                 renamedPath(m_template.getTemplatePath(), m_name, dialog.name));
+                }
+            }))
     {
-        if (dialog.name != m_name)
-        {
-            m_application.renameTemplate(m_template, renamedPath(m_template.getTemplatePath(), m_name, dialog.name));
-        }
-    }
-    catch (const Core::Exception& exception)
-    {
-        reportRefusal(exception);
         return S_OK;
     }
-    console.refreshResultList(*itemOfCookie(m_applicationNode));
+    console.refreshResultList(*lister());
     // The dialog has no check box for it, so the preference is read here and never written. It counts even when the
     // name stayed what it was: kept as is.
     if (readRestartPreference())

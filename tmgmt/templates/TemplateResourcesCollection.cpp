@@ -53,13 +53,8 @@ HRESULT TemplateResourcesCollection::OnSelect(bool, bool isSelected, Console& co
 
 HRESULT TemplateResourcesCollection::OnDelete(Console& console)
 {
-    try
+    if (!accepted([&] { m_application.deleteResource(m_folder.getResourcesFolderPath()); }))
     {
-        m_application.deleteResource(m_folder.getResourcesFolderPath());
-    }
-    catch (const Core::Exception& exception)
-    {
-        reportRefusal(exception);
         return S_OK;
     }
     const auto applicationNode = itemOfCookie(m_applicationNode);
@@ -82,25 +77,22 @@ void TemplateResourcesCollection::refreshResultList(Console& console)
 TemplateResourcesCollection::Rows TemplateResourcesCollection::readRows()
 {
     Rows rows;
-    try
-    {
-        Tessaro::ServerTemplates templates;
-        // The ids are positions, so that this node shows its neighbour once an application or a folder before it was
-        // removed: kept as is.
-        Tessaro::ServerApplication& application = templates.getAt(m_application.getId());
-        m_folder = application.getResourceFolderAt(m_folder.getId());
-        m_application = application;
-        setDisplayName(m_folder.getDisplayName().c_str());
-        rows.reserve(static_cast<std::size_t>(m_folder.getCount()));
-        for (int index = 0; index < m_folder.getCount(); ++index)
+    accepted(
+        [&]
         {
-            rows.emplace_back(new TemplateResourcesItem(*this, m_folder, m_folder.getAt(index)));
-        }
-    }
-    catch (const Core::Exception& exception)
-    {
-        reportRefusal(exception);
-    }
+            Tessaro::ServerTemplates templates;
+            // The ids are positions, so that this node shows its neighbour once an application or a folder before it
+            // was removed: kept as is.
+            Tessaro::ServerApplication& application = templates.getAt(m_application.getId());
+            m_folder = application.getResourceFolderAt(m_folder.getId());
+            m_application = application;
+            setDisplayName(m_folder.getDisplayName().c_str());
+            rows.reserve(static_cast<std::size_t>(m_folder.getCount()));
+            for (int index = 0; index < m_folder.getCount(); ++index)
+            {
+                rows.emplace_back(new TemplateResourcesItem(*this, m_folder, m_folder.getAt(index)));
+            }
+        });
     return rows;
 }
 
@@ -112,17 +104,16 @@ HRESULT TemplateResourcesCollection::rename(Console& console)
     {
         return S_OK;
     }
-    try
+    if (!accepted(
+            [&]
+            {
+                if (dialog.name != formerName)
+                {
+                    m_application.renameResource(
+                        m_folder, renamedPath(m_folder.getResourcesFolderPath(), formerName, dialog.name));
+                }
+            }))
     {
-        if (dialog.name != formerName)
-        {
-            m_application.renameResource(m_folder,
-                                         renamedPath(m_folder.getResourcesFolderPath(), formerName, dialog.name));
-        }
-    }
-    catch (const Core::Exception& exception)
-    {
-        reportRefusal(exception);
         return S_OK;
     }
     console.selectScopeItem(GetScopeData().ID);
@@ -137,14 +128,13 @@ HRESULT TemplateResourcesCollection::addFile(Console& console)
     {
         return S_OK;
     }
-    try
+    if (!accepted(
+            [&]
+            {
+                const WaitCursor wait;
+                m_folder.addResourceFile(dialog.file);
+            }))
     {
-        const WaitCursor wait;
-        m_folder.addResourceFile(dialog.file);
-    }
-    catch (const Core::Exception& exception)
-    {
-        reportRefusal(exception);
         return S_OK;
     }
     console.refreshResultList(*this);

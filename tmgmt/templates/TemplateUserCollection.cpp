@@ -34,19 +34,17 @@ HRESULT TemplateUserCollection::OnShow(bool selecting, HSCOPEITEM, Console& cons
 
 TemplateUserCollection::Rows TemplateUserCollection::readRows()
 {
-    try
-    {
-        Tessaro::ServerTemplates templates;
-        // The id is a position, so that this node shows its neighbour's users once an application before its own was
-        // removed: kept as is.
-        m_application = templates.getAt(m_application.getId());
-        return rowsOf(Tessaro::UserCollection());
-    }
-    catch (const Core::Exception& exception)
-    {
-        reportRefusal(exception);
-        return {};
-    }
+    Rows rows;
+    accepted(
+        [&]
+        {
+            Tessaro::ServerTemplates templates;
+            // The id is a position, so that this node shows its neighbour's users once an application before its own
+            // was removed: kept as is.
+            m_application = templates.getAt(m_application.getId());
+            rows = rowsOf(Tessaro::UserCollection());
+        });
+    return rows;
 }
 
 TemplateUserCollection::Rows TemplateUserCollection::rowsOf(const Tessaro::UserCollection& accounts) const
@@ -62,15 +60,12 @@ TemplateUserCollection::Rows TemplateUserCollection::rowsOf(const Tessaro::UserC
             rows.emplace_back(new TemplateUserItem(*this, application, name, accounts.isGuestEnabled()));
             continue;
         }
-        try
-        {
-            const Tessaro::User& user = accounts.getUserByName(name);
-            rows.emplace_back(new TemplateUserItem(*this, application, user.getUsername(), user.isEnabled()));
-        }
-        catch (const Core::Exception& exception)
-        {
-            reportRefusal(exception);
-        }
+        accepted(
+            [&]
+            {
+                const Tessaro::User& user = accounts.getUserByName(name);
+                rows.emplace_back(new TemplateUserItem(*this, application, user.getUsername(), user.isEnabled()));
+            });
     }
     return rows;
 }
@@ -78,20 +73,20 @@ TemplateUserCollection::Rows TemplateUserCollection::rowsOf(const Tessaro::UserC
 HRESULT TemplateUserCollection::grantAccess(Console& console)
 {
     AddTemplateUserDlg dialog(m_application);
-    try
-    {
-        if (dialog.show(GetActiveWindow()) != IDOK)
+    bool granted = false;
+    accepted(
+        [&]
         {
-            return S_OK;
-        }
-        Tessaro::ServerTemplates().updateApplication(dialog.application);
-    }
-    catch (const Core::Exception& exception)
+            if (dialog.show(GetActiveWindow()) == IDOK)
+            {
+                Tessaro::ServerTemplates().updateApplication(dialog.application);
+                granted = true;
+            }
+        });
+    if (granted)
     {
-        reportRefusal(exception);
-        return S_OK;
+        console.refreshResultList(*this);
     }
-    console.refreshResultList(*this);
     return S_OK;
 }
 

@@ -57,21 +57,17 @@ void TemplatesCollection::load()
 TemplatesCollection::Applications TemplatesCollection::readApplications() const
 {
     Applications applications;
-    try
-    {
-        Tessaro::ServerTemplates templates;
-        const Tessaro::UserCollection accounts;
-        for (int index = 0; index < templates.getCount(); ++index)
+    const bool complete = accepted(
+        [&]
         {
-            applications.emplace_back(new TemplatesCollectionItem(*this, templates.getAt(index), accounts));
-        }
-    }
-    catch (const Core::Exception& exception)
-    {
-        reportRefusal(exception);
-        return {};
-    }
-    return applications;
+            Tessaro::ServerTemplates templates;
+            const Tessaro::UserCollection accounts;
+            for (int index = 0; index < templates.getCount(); ++index)
+            {
+                applications.emplace_back(new TemplatesCollectionItem(*this, templates.getAt(index), accounts));
+            }
+        });
+    return complete ? applications : Applications();
 }
 
 HRESULT TemplatesCollection::add(Console& console)
@@ -81,18 +77,17 @@ HRESULT TemplatesCollection::add(Console& console)
     {
         return S_OK;
     }
-    try
+    if (!accepted(
+            [&]
+            {
+                Tessaro::ServerTemplates templates;
+                Tessaro::ServerApplication application;
+                application.setApplicationPath(Core::IO::FileSystem::combinePath(applicationsFolder(), dialog.name));
+                application.setParser(dialog.engine);
+                application.addUser(guestEntry);
+                templates.addNewApplication(application);
+            }))
     {
-        Tessaro::ServerTemplates templates;
-        Tessaro::ServerApplication application;
-        application.setApplicationPath(Core::IO::FileSystem::combinePath(applicationsFolder(), dialog.name));
-        application.setParser(dialog.engine);
-        application.addUser(guestEntry);
-        templates.addNewApplication(application);
-    }
-    catch (const Core::Exception& exception)
-    {
-        reportRefusal(exception);
         return S_OK;
     }
     return OnRefresh(console);

@@ -71,14 +71,13 @@ HRESULT TemplatesCollectionItem::OnSelect(bool, bool isSelected, Console& consol
 
 HRESULT TemplatesCollectionItem::OnDelete(Console& console)
 {
-    try
+    if (!accepted(
+            [&]
+            {
+                const WaitCursor wait;
+                ServerTemplates().deleteApplication(m_application.getApplicationPath());
+            }))
     {
-        const WaitCursor wait;
-        ServerTemplates().deleteApplication(m_application.getApplicationPath());
-    }
-    catch (const Core::Exception& exception)
-    {
-        reportRefusal(exception);
         return S_OK;
     }
     const auto parent = itemOfCookie(m_parent);
@@ -105,38 +104,32 @@ void TemplatesCollectionItem::readApplication()
 TemplatesCollectionItem::Rows TemplatesCollectionItem::readRows()
 {
     Rows rows;
-    try
-    {
-        readApplication();
-        rows.reserve(static_cast<std::size_t>(m_application.getTemplatesCount()));
-        for (int index = 0; index < m_application.getTemplatesCount(); ++index)
+    accepted(
+        [&]
         {
-            rows.emplace_back(new TemplatePropertyItem(*this, m_application, m_application.getAt(index)));
-        }
-    }
-    catch (const Core::Exception& exception)
-    {
-        reportRefusal(exception);
-    }
+            readApplication();
+            rows.reserve(static_cast<std::size_t>(m_application.getTemplatesCount()));
+            for (int index = 0; index < m_application.getTemplatesCount(); ++index)
+            {
+                rows.emplace_back(new TemplatePropertyItem(*this, m_application, m_application.getAt(index)));
+            }
+        });
     return rows;
 }
 
 TemplatesCollectionItem::Children TemplatesCollectionItem::readChildren()
 {
     Children children{m_children.front()};
-    try
-    {
-        readApplication();
-        for (int index = 0; index < m_application.getResourcesCount(); ++index)
+    accepted(
+        [&]
         {
-            children.emplace_back(
-                new TemplateResourcesCollection(*this, m_application, m_application.getResourceFolderAt(index)));
-        }
-    }
-    catch (const Core::Exception& exception)
-    {
-        reportRefusal(exception);
-    }
+            readApplication();
+            for (int index = 0; index < m_application.getResourcesCount(); ++index)
+            {
+                children.emplace_back(
+                    new TemplateResourcesCollection(*this, m_application, m_application.getResourceFolderAt(index)));
+            }
+        });
     return children;
 }
 
@@ -150,23 +143,22 @@ HRESULT TemplatesCollectionItem::edit(Console& console)
     }
     ServerApplication edited = m_application;
     edited.setParser(dialog.engine);
-    try
+    if (!accepted(
+            [&]
+            {
+                ServerTemplates templates;
+                if (dialog.name != name)
+                {
+                    const Core::String path = renamedPath(edited.getApplicationPath(), name, dialog.name);
+                    templates.renameApplication(edited, path);
+                    edited.setApplicationPath(path);
+                }
+                else
+                {
+                    templates.updateApplication(edited);
+                }
+            }))
     {
-        ServerTemplates templates;
-        if (dialog.name != name)
-        {
-            const Core::String path = renamedPath(edited.getApplicationPath(), name, dialog.name);
-            templates.renameApplication(edited, path);
-            edited.setApplicationPath(path);
-        }
-        else
-        {
-            templates.updateApplication(edited);
-        }
-    }
-    catch (const Core::Exception& exception)
-    {
-        reportRefusal(exception);
         return S_OK;
     }
     m_application = edited;
@@ -183,16 +175,15 @@ HRESULT TemplatesCollectionItem::addTemplate(Console& console)
     {
         return S_OK;
     }
-    try
+    if (!accepted(
+            [&]
+            {
+                const WaitCursor wait;
+                ServerTemplates templates;
+                m_application.addNewTemplate(dialog.file);
+                templates.updateApplication(m_application);
+            }))
     {
-        const WaitCursor wait;
-        ServerTemplates templates;
-        m_application.addNewTemplate(dialog.file);
-        templates.updateApplication(m_application);
-    }
-    catch (const Core::Exception& exception)
-    {
-        reportRefusal(exception);
         return S_OK;
     }
     console.refreshResultList(*this);
@@ -206,15 +197,14 @@ HRESULT TemplatesCollectionItem::addFolder(Console& console)
     {
         return S_OK;
     }
-    try
+    if (!accepted(
+            [&]
+            {
+                ServerTemplates templates;
+                m_application.addNewResource(dialog.name);
+                templates.updateApplication(m_application);
+            }))
     {
-        ServerTemplates templates;
-        m_application.addNewResource(dialog.name);
-        templates.updateApplication(m_application);
-    }
-    catch (const Core::Exception& exception)
-    {
-        reportRefusal(exception);
         return S_OK;
     }
     return OnRefresh(console);

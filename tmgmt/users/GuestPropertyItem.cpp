@@ -16,13 +16,8 @@ HRESULT GuestPropertyItem::edit(Console& console)
     }
     // The row shows what was chosen from now on, even when it cannot be stored: kept as is.
     setAccount(name, dialog.guestEnabled);
-    try
+    if (!accepted([&] { Tessaro::UserCollection().setGuestEnabled(isEnabled()); }))
     {
-        Tessaro::UserCollection().setGuestEnabled(isEnabled());
-    }
-    catch (const Core::Exception& exception)
-    {
-        reportRefusal(exception);
         return S_OK;
     }
     console.updateAllViews(*this, CCT_RESULT);

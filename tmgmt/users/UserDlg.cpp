@@ -10,17 +10,14 @@ UserDlg::UserDlg(UINT resource, Tessaro::User user_) : Dialog(resource), user(st
 
 void UserDlg::onOk()
 {
-    try
+    const wchar_t* fault = nullptr;
+    if (!accepted([&] { fault = store(); }))
     {
-        if (const wchar_t* const fault = store())
-        {
-            complain(fault, MB_ICONERROR);
-            return;
-        }
+        return;
     }
-    catch (const Core::Exception& exception)
+    if (fault)
     {
-        reportRefusal(exception);
+        complain(fault, MB_ICONERROR);
         return;
     }
     end(IDOK);

@@ -21,16 +21,13 @@ HRESULT UserPropertyItem::OnSelect(bool, bool isSelected, Console& console)
 HRESULT UserPropertyItem::OnDelete(Console& console)
 {
     bool deleted = false;
-    try
-    {
-        Tessaro::UserCollection().deleteUser(m_user);
-        deleted = true;
-        removeFromAccessLists(m_user.getUsername());
-    }
-    catch (const Core::Exception& exception)
-    {
-        reportRefusal(exception);
-    }
+    accepted(
+        [&]
+        {
+            Tessaro::UserCollection().deleteUser(m_user);
+            deleted = true;
+            removeFromAccessLists(m_user.getUsername());
+        });
     // Where access lists cannot be rewritten the account is gone all the same.
     if (deleted)
     {
@@ -49,13 +46,8 @@ HRESULT UserPropertyItem::edit(Console& console)
     // The row shows what was entered from now on, even when it cannot be stored: kept as is.
     m_user = dialog.user;
     setAccount(m_user.getUsername(), m_user.isEnabled());
-    try
+    if (!accepted([&] { Tessaro::UserCollection().updateUser(m_user); }))
     {
-        Tessaro::UserCollection().updateUser(m_user);
-    }
-    catch (const Core::Exception& exception)
-    {
-        reportRefusal(exception);
         return S_OK;
     }
     console.updateAllViews(*this, CCT_RESULT);

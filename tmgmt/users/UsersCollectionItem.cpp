@@ -35,20 +35,17 @@ HRESULT UsersCollectionItem::OnShow(bool selecting, HSCOPEITEM, Console& console
 UsersCollectionItem::Rows UsersCollectionItem::readRows()
 {
     Rows rows;
-    try
-    {
-        const Tessaro::UserCollection users;
-        rows.reserve(static_cast<std::size_t>(users.getCount()) + 1);
-        rows.emplace_back(new GuestPropertyItem(*this, users.isGuestEnabled()));
-        for (int index = 0; index < users.getCount(); ++index)
+    accepted(
+        [&]
         {
-            rows.emplace_back(new UserPropertyItem(*this, users.getAt(index)));
-        }
-    }
-    catch (const Core::Exception& exception)
-    {
-        reportRefusal(exception);
-    }
+            const Tessaro::UserCollection users;
+            rows.reserve(static_cast<std::size_t>(users.getCount()) + 1);
+            rows.emplace_back(new GuestPropertyItem(*this, users.isGuestEnabled()));
+            for (int index = 0; index < users.getCount(); ++index)
+            {
+                rows.emplace_back(new UserPropertyItem(*this, users.getAt(index)));
+            }
+        });
     return rows;
 }
 
@@ -59,13 +56,8 @@ HRESULT UsersCollectionItem::add(Console& console)
     {
         return S_OK;
     }
-    try
+    if (!accepted([&] { Tessaro::UserCollection().addNewUser(dialog.user); }))
     {
-        Tessaro::UserCollection().addNewUser(dialog.user);
-    }
-    catch (const Core::Exception& exception)
-    {
-        reportRefusal(exception);
         return S_OK;
     }
     console.refreshResultList(*this);

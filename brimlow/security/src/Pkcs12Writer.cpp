@@ -9,17 +9,17 @@ namespace Security
 namespace
 {
 
-constexpr wchar_t failure[] = L"A PKCS #12 file cannot be made";
+constexpr wchar_t fileFailure[] = L"A PKCS #12 file cannot be made";
 
 void push(const BagsPtr& bags, PKCS12_SAFEBAG* newBag, const std::string& localKeyId)
 {
-    Owned<PKCS12_SAFEBAG, PKCS12_SAFEBAG_free> bag(check(newBag, failure));
+    Owned<PKCS12_SAFEBAG, PKCS12_SAFEBAG_free> bag(check(newBag, fileFailure));
     if (!localKeyId.empty())
     {
         auto* id = reinterpret_cast<unsigned char*>(const_cast<char*>(localKeyId.data()));
-        check(PKCS12_add_localkeyid(bag.get(), id, static_cast<int>(localKeyId.size())), failure);
+        check(PKCS12_add_localkeyid(bag.get(), id, static_cast<int>(localKeyId.size())), fileFailure);
     }
-    check(sk_PKCS12_SAFEBAG_push(bags.get(), bag.get()), failure);
+    check(sk_PKCS12_SAFEBAG_push(bags.get(), bag.get()), fileFailure);
     static_cast<void>(bag.release());
 }
 
@@ -29,13 +29,14 @@ void addSafe(SafesPtr& safes, const BagsPtr& bags, int encryption, const char* p
     auto* list = safes.release();
     const int added = PKCS12_add_safe(&list, bags.get(), encryption, PKCS12_DEFAULT_ITER, password);
     safes.reset(list);
-    check(added, failure);
+    check(added, fileFailure);
 }
 
 } // namespace
 
 Pkcs12Writer::Pkcs12Writer()
-    : m_certificates(check(sk_PKCS12_SAFEBAG_new_null(), failure)), m_keys(check(sk_PKCS12_SAFEBAG_new_null(), failure))
+    : m_certificates(check(sk_PKCS12_SAFEBAG_new_null(), fileFailure)),
+      m_keys(check(sk_PKCS12_SAFEBAG_new_null(), fileFailure))
 {
 }
 
@@ -47,7 +48,7 @@ void Pkcs12Writer::addCertificate(X509& certificate, const std::string& localKey
 void Pkcs12Writer::addKey(const X509_SIG& encryptedKey, const std::string& localKeyId)
 {
     EncryptedPkcs8Ptr key = copyOf(encryptedKey);
-    PKCS12_SAFEBAG* bag = check(PKCS12_SAFEBAG_create0_pkcs8(key.get()), failure);
+    PKCS12_SAFEBAG* bag = check(PKCS12_SAFEBAG_create0_pkcs8(key.get()), fileFailure);
     static_cast<void>(key.release());
     push(m_keys, bag, localKeyId);
 }
@@ -57,11 +58,11 @@ std::string Pkcs12Writer::finish(const Secret& password) const
     SafesPtr safes;
     addSafe(safes, m_certificates, NID_aes_256_cbc, password.get());
     addSafe(safes, m_keys, -1, nullptr);
-    const Pkcs12Ptr file(check(PKCS12_add_safes(safes.get(), 0), failure));
+    const Pkcs12Ptr file(check(PKCS12_add_safes(safes.get(), 0), fileFailure));
     check(PKCS12_set_mac(file.get(), password.get(), password.length(), nullptr, 0, PKCS12_DEFAULT_ITER, EVP_sha256()),
-          failure);
+          fileFailure);
     unsigned char* bytes = nullptr;
-    const int size = check(i2d_PKCS12(file.get(), &bytes), failure);
+    const int size = check(i2d_PKCS12(file.get(), &bytes), fileFailure);
     const MemoryPtr owner(bytes);
     return {reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(size)};
 }

@@ -19,7 +19,7 @@ namespace
 
 using Core::String;
 
-constexpr wchar_t failure[] = L"The subject of a certificate cannot be made";
+constexpr wchar_t subjectFailure[] = L"The subject of a certificate cannot be made";
 
 struct Field
 {
@@ -133,14 +133,14 @@ std::string valueOf(const CertificateInfo& info, const Field& field)
 
 NamePtr makeName(const CertificateInfo& info)
 {
-    NamePtr name(check(X509_NAME_new(), failure));
+    NamePtr name(check(X509_NAME_new(), subjectFailure));
     for (const Field& field : fields)
     {
         const std::string value = valueOf(info, field);
         check(X509_NAME_add_entry_by_NID(name.get(), field.nid, field.type,
                                          reinterpret_cast<const unsigned char*>(value.data()),
                                          static_cast<int>(value.size()), -1, 0),
-              failure);
+              subjectFailure);
     }
     return name;
 }
@@ -148,18 +148,18 @@ NamePtr makeName(const CertificateInfo& info)
 // What programs compare with the address that they connect to; they do not look at the common name.
 GeneralNamesPtr makeAlternativeNames(const std::string& commonName)
 {
-    GeneralNamesPtr names(check(GENERAL_NAMES_new(), failure));
-    GENERAL_NAME* name = check(GENERAL_NAME_new(), failure);
-    check(sk_GENERAL_NAME_push(names.get(), name), failure);
+    GeneralNamesPtr names(check(GENERAL_NAMES_new(), subjectFailure));
+    GENERAL_NAME* name = check(GENERAL_NAME_new(), subjectFailure);
+    check(sk_GENERAL_NAME_push(names.get(), name), subjectFailure);
     if (ASN1_OCTET_STRING* address = a2i_IPADDRESS(commonName.c_str()))
     {
         GENERAL_NAME_set0_value(name, GEN_IPADD, address);
         return names;
     }
     ERR_clear_error();
-    ASN1_IA5STRING* text = check(ASN1_IA5STRING_new(), failure);
+    ASN1_IA5STRING* text = check(ASN1_IA5STRING_new(), subjectFailure);
     GENERAL_NAME_set0_value(name, GEN_DNS, text);
-    check(ASN1_STRING_set(text, commonName.data(), static_cast<int>(commonName.size())), failure);
+    check(ASN1_STRING_set(text, commonName.data(), static_cast<int>(commonName.size())), subjectFailure);
     return names;
 }
 
@@ -168,24 +168,24 @@ void add(ExtensionsPtr& extensions, int nid, void* value, bool critical)
     auto* list = extensions.release();
     const int added = X509V3_add1_i2d(&list, nid, value, critical ? 1 : 0, X509V3_ADD_APPEND);
     extensions.reset(list);
-    check(added, failure);
+    check(added, subjectFailure);
 }
 
 ExtensionsPtr makeExtensions(const std::string& commonName)
 {
     ExtensionsPtr extensions;
 
-    const Owned<BASIC_CONSTRAINTS, BASIC_CONSTRAINTS_free> noAuthority(check(BASIC_CONSTRAINTS_new(), failure));
+    const Owned<BASIC_CONSTRAINTS, BASIC_CONSTRAINTS_free> noAuthority(check(BASIC_CONSTRAINTS_new(), subjectFailure));
     add(extensions, NID_basic_constraints, noAuthority.get(), true);
 
     // Bits count from the left: digitalSignature is 0, keyEncipherment 2.
-    const Owned<ASN1_BIT_STRING, ASN1_BIT_STRING_free> keyUsage(check(ASN1_BIT_STRING_new(), failure));
-    check(ASN1_BIT_STRING_set_bit(keyUsage.get(), 0, 1), failure);
-    check(ASN1_BIT_STRING_set_bit(keyUsage.get(), 2, 1), failure);
+    const Owned<ASN1_BIT_STRING, ASN1_BIT_STRING_free> keyUsage(check(ASN1_BIT_STRING_new(), subjectFailure));
+    check(ASN1_BIT_STRING_set_bit(keyUsage.get(), 0, 1), subjectFailure);
+    check(ASN1_BIT_STRING_set_bit(keyUsage.get(), 2, 1), subjectFailure);
     add(extensions, NID_key_usage, keyUsage.get(), true);
 
-    const Owned<EXTENDED_KEY_USAGE, EXTENDED_KEY_USAGE_free> purposes(check(EXTENDED_KEY_USAGE_new(), failure));
-    check(sk_ASN1_OBJECT_push(purposes.get(), OBJ_nid2obj(NID_server_auth)), failure);
+    const Owned<EXTENDED_KEY_USAGE, EXTENDED_KEY_USAGE_free> purposes(check(EXTENDED_KEY_USAGE_new(), subjectFailure));
+    check(sk_ASN1_OBJECT_push(purposes.get(), OBJ_nid2obj(NID_server_auth)), subjectFailure);
     add(extensions, NID_ext_key_usage, purposes.get(), false);
 
     add(extensions, NID_subject_alt_name, makeAlternativeNames(commonName).get(), false);

@@ -12,16 +12,6 @@ namespace Tessaro
 
 using Core::String;
 
-namespace
-{
-
-Core::Exception failure(const wchar_t* sentence, const String& path)
-{
-    return Core::Exception((Core::StringFormatStream(sentence) << path).getString());
-}
-
-} // namespace
-
 ApplicationFiles::ApplicationFiles(String folder, const Core::IO::FileTree& system)
     : m_folder(std::move(folder)), m_system(system)
 {
@@ -55,9 +45,10 @@ void ApplicationFiles::requireNoLink(const String& relative) const
 {
     if (leadsElsewhere(relative))
     {
-        throw failure(L"The folder \"{0}\" is reached through a link to another place, where nothing is changed. "
-                      L"Please put a folder in the place of the link.",
-                      pathOf(relative));
+        throw Core::Exception(
+            Core::format(L"The folder \"{0}\" is reached through a link to another place, where nothing is changed. "
+                         L"Please put a folder in the place of the link.",
+                         pathOf(relative)));
     }
 }
 
@@ -72,7 +63,8 @@ void ApplicationFiles::requireFolder(const String& relative) const
 
 void ApplicationFiles::failAsMissing(const String& relative) const
 {
-    throw failure(L"\"{0}\" is missing on the disk. Please put it back, or delete it from the list.", pathOf(relative));
+    throw Core::Exception(Core::format(
+        L"\"{0}\" is missing on the disk. Please put it back, or delete it from the list.", pathOf(relative)));
 }
 
 Core::SystemError ApplicationFiles::move(const String& from, const String& to) const

@@ -55,11 +55,6 @@ class Settlement
 // For what has nothing beside its name.
 void nothingElse(const Connection&, std::int64_t) {}
 
-String failure(const wchar_t* sentence, const EntryTable& entries, const String& name)
-{
-    return (Core::StringFormatStream(sentence) << entries.noun << name).getString();
-}
-
 } // namespace
 
 ApplicationStore ApplicationStore::machine()
@@ -125,8 +120,8 @@ String ApplicationStore::nameOf(const Connection& connection, const ServerApplic
     const StoredId& id = application.fields().id;
     if (id == StoredId())
     {
-        throw Core::Exception(failure(L"The {0} \"{1}\" is not stored yet. Please add it first.",
-                                      EntryTable::applications, application.getDisplayName()));
+        throw Core::Exception(Core::format(L"The {0} \"{1}\" is not stored yet. Please add it first.",
+                                           EntryTable::applications.noun, application.getDisplayName()));
     }
     const std::optional<String> name = ApplicationTable::nameOf(connection, id);
     if (!name)
@@ -186,7 +181,7 @@ ApplicationStore::Pointer ApplicationStore::add(FindShelf findShelf, const Strin
             store(connection, row);
             return Change{shelf.application ? shelf.application : row,
                           Move{join(shelf.folder, getFileName(temporary)), join(shelf.folder, name),
-                               failure(L"The {0} \"{1}\" cannot be added", shelf.entries, name)}};
+                               Core::format(L"The {0} \"{1}\" cannot be added", shelf.entries.noun, name)}};
         });
 }
 
@@ -218,8 +213,9 @@ ApplicationStore::Pointer ApplicationStore::remove(FindShelf findShelf, const St
                 // What somebody removed by hand only needs to leave the list.
                 if (isThere(shelf, entry->name))
                 {
-                    change.move = Move{join(shelf.folder, entry->name), join(shelf.folder, newTemporaryName()),
-                                       failure(L"The {0} \"{1}\" cannot be deleted", shelf.entries, entry->name)};
+                    change.move =
+                        Move{join(shelf.folder, entry->name), join(shelf.folder, newTemporaryName()),
+                             Core::format(L"The {0} \"{1}\" cannot be deleted", shelf.entries.noun, entry->name)};
                 }
             }
             return change;
@@ -242,7 +238,7 @@ ApplicationStore::Change ApplicationStore::renameEntry(Connection& connection, c
         m_files.failAsMissing(join(shelf.folder, entry.name));
     }
     change.move = Move{join(shelf.folder, entry.name), join(shelf.folder, newName),
-                       failure(L"The {0} \"{1}\" cannot be renamed", shelf.entries, entry.name)};
+                       Core::format(L"The {0} \"{1}\" cannot be renamed", shelf.entries.noun, entry.name)};
     return change;
 }
 

@@ -14,16 +14,6 @@ namespace Tessaro
 using Database::Connection;
 using Database::Statement;
 
-namespace
-{
-
-Core::Exception failure(const wchar_t* sentence, const Core::String& username)
-{
-    return Core::Exception((Core::StringFormatStream(sentence) << username).getString());
-}
-
-} // namespace
-
 // The order of the rows is the order in which they were added. A removed user's number never goes to another one
 // (AUTOINCREMENT), so that a console that still shows the former cannot change the latter.
 void UserTable::create(Connection& connection)
@@ -73,9 +63,10 @@ User UserTable::add(Connection& connection, const User& user)
     const std::int64_t id = insert.getInt64(0);
     if (id > std::numeric_limits<int>::max())
     {
-        throw failure(L"The user \"{0}\" cannot be added: the database has used up its numbers for users. "
-                      L"Please restore it from a backup.",
-                      user.m_username);
+        throw Core::Exception(
+            Core::format(L"The user \"{0}\" cannot be added: the database has used up its numbers for users. "
+                         L"Please restore it from a backup.",
+                         user.m_username));
     }
     added.m_id = static_cast<int>(id);
     return added;
@@ -89,8 +80,8 @@ void UserTable::update(Connection& connection, const User& user)
     update.bind(user.m_username, user.m_password, user.m_enabled, user.m_id);
     if (!update.step())
     {
-        throw failure(L"The user \"{0}\" has been removed by another program. Please refresh the list.",
-                      user.m_username);
+        throw Core::Exception(Core::format(
+            L"The user \"{0}\" has been removed by another program. Please refresh the list.", user.m_username));
     }
 }
 
@@ -119,7 +110,8 @@ void UserTable::checkUnique(Connection& connection, const User& user)
     other.bind(user.m_username, user.m_id);
     if (other.step())
     {
-        throw failure(L"There is already a user \"{0}\". Please choose another name.", user.m_username);
+        throw Core::Exception(
+            Core::format(L"There is already a user \"{0}\". Please choose another name.", user.m_username));
     }
 }
 

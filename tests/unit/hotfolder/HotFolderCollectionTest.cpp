@@ -14,7 +14,7 @@ namespace
 
 using namespace HotFolders;
 
-HotFolder hotFolder(const Core::String& path, const wchar_t* pattern = L"*.*")
+HotFolder watching(const Core::String& path, const wchar_t* pattern = L"*.*")
 {
     HotFolder folder;
     folder.setFolder(path);
@@ -52,7 +52,7 @@ TEST_F(HotFolderCollectionTest, IsEmptyWithoutADatabase)
 
 TEST_F(HotFolderCollectionTest, KeepsEveryField)
 {
-    HotFolder folder = hotFolder(L"C:\\In", L"*.xml");
+    HotFolder folder = watching(L"C:\\In", L"*.xml");
     folder.setEnableMonitoring(false);
     folder.setOutputFormat(static_cast<Tessaro::OutputFormat>(8));
     folder.setPageIndex(3);
@@ -68,7 +68,7 @@ TEST_F(HotFolderCollectionTest, KeepsEveryField)
     onFailure[0].setType(static_cast<ActionType>(9));
     folder.setOnFailureActionList(onFailure);
     HotFolderCollection().addNewFolder(folder);
-    HotFolderCollection().addNewFolder(hotFolder(L"C:\\In2"));
+    HotFolderCollection().addNewFolder(watching(L"C:\\In2"));
 
     const HotFolderCollection folders;
     ASSERT_EQ(2, folders.getCount());
@@ -93,24 +93,24 @@ TEST_F(HotFolderCollectionTest, IsInTheOrderOfAddingWhateverIsChanged)
     HotFolderCollection folders;
     for (const wchar_t* path : {L"C:\\b", L"C:\\c", L"C:\\a"})
     {
-        folders.addNewFolder(hotFolder(path));
+        folders.addNewFolder(watching(path));
     }
     HotFolder middle = folders.getAt(1);
     middle.setFolder(L"C:\\z");
     folders.updateFolder(middle);
     EXPECT_EQ((Paths{"C:\\b", "C:\\z", "C:\\a"}), paths(folders));
     folders.removeFolder(folders.getAt(2));
-    folders.addNewFolder(hotFolder(L"C:\\d"));
+    folders.addNewFolder(watching(L"C:\\d"));
     EXPECT_EQ((Paths{"C:\\b", "C:\\z", "C:\\d"}), paths(folders));
     EXPECT_EQ((Paths{"C:\\b", "C:\\z", "C:\\d"}), paths(HotFolderCollection()));
 }
 
 TEST_F(HotFolderCollectionTest, StaysAsItWasConstructedWhenAnotherChanges)
 {
-    HotFolderCollection().addNewFolder(hotFolder(L"C:\\a"));
+    HotFolderCollection().addNewFolder(watching(L"C:\\a"));
     const HotFolderCollection before;
     const HotFolderCollection copy = before;
-    HotFolderCollection().addNewFolder(hotFolder(L"C:\\b"));
+    HotFolderCollection().addNewFolder(watching(L"C:\\b"));
     HotFolderCollection().removeFolder(before.getAt(0));
     EXPECT_EQ((Paths{"C:\\a"}), paths(before));
     EXPECT_EQ((Paths{"C:\\a"}), paths(copy));
@@ -119,7 +119,7 @@ TEST_F(HotFolderCollectionTest, StaysAsItWasConstructedWhenAnotherChanges)
 
 TEST_F(HotFolderCollectionTest, UpdatesTheSameHotFolderAgainAndAgain)
 {
-    HotFolderCollection().addNewFolder(hotFolder(L"C:\\a"));
+    HotFolderCollection().addNewFolder(watching(L"C:\\a"));
     HotFolder folder = HotFolderCollection().getAt(0);
     for (const wchar_t* path : {L"C:\\b", L"C:\\c"})
     {
@@ -131,7 +131,7 @@ TEST_F(HotFolderCollectionTest, UpdatesTheSameHotFolderAgainAndAgain)
 
 TEST_F(HotFolderCollectionTest, ReplacesTheActionsOfAnUpdatedHotFolder)
 {
-    HotFolder folder = hotFolder(L"C:\\a");
+    HotFolder folder = watching(L"C:\\a");
     folder.setOnSuccessActionList(ActionList(3));
     folder.setOnFailureActionList(ActionList(1));
     HotFolderCollection().addNewFolder(folder);
@@ -146,7 +146,7 @@ TEST_F(HotFolderCollectionTest, ReplacesTheActionsOfAnUpdatedHotFolder)
 TEST_F(HotFolderCollectionTest, GivesAnAddedCopyAnIdentityOfItsOwn)
 {
     HotFolderCollection folders;
-    folders.addNewFolder(hotFolder(L"C:\\a"));
+    folders.addNewFolder(watching(L"C:\\a"));
     HotFolder copy = folders.getAt(0);
     copy.setFolder(L"C:\\b");
     folders.addNewFolder(copy);
@@ -157,24 +157,24 @@ TEST_F(HotFolderCollectionTest, GivesAnAddedCopyAnIdentityOfItsOwn)
 TEST_F(HotFolderCollectionTest, RefusesASecondHotFolderForTheSameFiles)
 {
     HotFolderCollection folders;
-    folders.addNewFolder(hotFolder(L"C:\\\u00C4rger\\In", L"*.Xml"));
+    folders.addNewFolder(watching(L"C:\\\u00C4rger\\In", L"*.Xml"));
     for (const wchar_t* same : {L"C:\\\u00C4rger\\In", L"c:\\\u00E4RGER\\in\\", L"C:/\u00C4rger/In//"})
     {
         EXPECT_EQ(L"Another hot folder already watches \"C:\\\u00C4rger\\In\" for \"*.Xml\".",
-                  refusal([&] { folders.addNewFolder(hotFolder(same, L"*.xML")); }));
+                  refusal([&] { folders.addNewFolder(watching(same, L"*.xML")); }));
     }
     EXPECT_EQ(L"Another hot folder already watches \"C:\\\u00C4rger\\In\" for \"*.Xml\".",
               refusal([&] { folders.addNewFolder(folders.getAt(0)); }));
     EXPECT_EQ(1, folders.getCount());
-    EXPECT_EQ(L"accepted", refusal([&] { folders.addNewFolder(hotFolder(L"C:\\\u00C4rger\\In", L"*.txt")); }));
-    EXPECT_EQ(L"accepted", refusal([&] { folders.addNewFolder(hotFolder(L"C:\\\u00C4rger\\In2", L"*.Xml")); }));
+    EXPECT_EQ(L"accepted", refusal([&] { folders.addNewFolder(watching(L"C:\\\u00C4rger\\In", L"*.txt")); }));
+    EXPECT_EQ(L"accepted", refusal([&] { folders.addNewFolder(watching(L"C:\\\u00C4rger\\In2", L"*.Xml")); }));
 }
 
 TEST_F(HotFolderCollectionTest, RefusesAnUpdateToTheFilesOfAnother)
 {
     HotFolderCollection folders;
-    folders.addNewFolder(hotFolder(L"C:\\a"));
-    folders.addNewFolder(hotFolder(L"C:\\b"));
+    folders.addNewFolder(watching(L"C:\\a"));
+    folders.addNewFolder(watching(L"C:\\b"));
     HotFolder second = folders.getAt(1);
     second.setFolder(L"C:\\A");
     EXPECT_EQ(L"Another hot folder already watches \"C:\\a\" for \"*.*\".",
@@ -190,7 +190,7 @@ TEST_F(HotFolderCollectionTest, RefusesWhatIsNotValidButDoesNotLookForFolders)
     HotFolderCollection folders;
     EXPECT_EQ(L"Please enter the input folder.", refusal([&] { folders.addNewFolder(HotFolder()); }));
     EXPECT_EQ(0, folders.getCount());
-    folders.addNewFolder(hotFolder(L"C:\\does\\not\\exist"));
+    folders.addNewFolder(watching(L"C:\\does\\not\\exist"));
     HotFolder stored = folders.getAt(0);
     stored.setPageIndex(-1);
     EXPECT_EQ(L"The page index -1 is negative; the first page has index 0.",
@@ -200,35 +200,35 @@ TEST_F(HotFolderCollectionTest, RefusesWhatIsNotValidButDoesNotLookForFolders)
 
 TEST_F(HotFolderCollectionTest, RefusesToUpdateWhatHasBeenRemoved)
 {
-    HotFolderCollection().addNewFolder(hotFolder(L"C:\\a"));
+    HotFolderCollection().addNewFolder(watching(L"C:\\a"));
     const HotFolder removed = HotFolderCollection().getAt(0);
     HotFolderCollection().removeFolder(removed);
     const Core::String gone = L"The hot folder \"C:\\a\" has been removed by another program. Please refresh the list.";
     EXPECT_EQ(gone, refusal([&] { HotFolderCollection().updateFolder(removed); }));
-    EXPECT_EQ(gone, refusal([&] { HotFolderCollection().updateFolder(hotFolder(L"C:\\a")); }));
+    EXPECT_EQ(gone, refusal([&] { HotFolderCollection().updateFolder(watching(L"C:\\a")); }));
 
     // Its row number goes to the next one; that is another hot folder all the same.
-    HotFolderCollection().addNewFolder(hotFolder(L"C:\\b"));
+    HotFolderCollection().addNewFolder(watching(L"C:\\b"));
     EXPECT_EQ(gone, refusal([&] { HotFolderCollection().updateFolder(removed); }));
     EXPECT_EQ((Paths{"C:\\b"}), paths(HotFolderCollection()));
 }
 
 TEST_F(HotFolderCollectionTest, RemovingWhatIsGoneIsHarmless)
 {
-    HotFolderCollection().addNewFolder(hotFolder(L"C:\\a"));
+    HotFolderCollection().addNewFolder(watching(L"C:\\a"));
     const HotFolder removed = HotFolderCollection().getAt(0);
     HotFolderCollection().removeFolder(removed);
-    HotFolderCollection().addNewFolder(hotFolder(L"C:\\b"));
+    HotFolderCollection().addNewFolder(watching(L"C:\\b"));
     HotFolderCollection().removeFolder(removed);
-    HotFolderCollection().removeFolder(hotFolder(L"C:\\b"));
+    HotFolderCollection().removeFolder(watching(L"C:\\b"));
     EXPECT_EQ((Paths{"C:\\b"}), paths(HotFolderCollection()));
 }
 
 TEST_F(HotFolderCollectionTest, RemovesByIdentityWhateverTheValuesAre)
 {
     HotFolderCollection folders;
-    folders.addNewFolder(hotFolder(L"C:\\a"));
-    folders.addNewFolder(hotFolder(L"C:\\b"));
+    folders.addNewFolder(watching(L"C:\\a"));
+    folders.addNewFolder(watching(L"C:\\b"));
     HotFolder first = folders.getAt(0);
     first.setFolder(L"C:\\b");
     folders.removeFolder(first);
@@ -245,7 +245,7 @@ TEST_F(HotFolderCollectionTest, KeepsTextsOfAnyScriptAndLength)
     };
     for (const Core::String& text : texts)
     {
-        HotFolder folder = hotFolder(text);
+        HotFolder folder = watching(text);
         folder.setBaseUrl(L"\uFEFF" + text);
         HotFolderCollection().addNewFolder(folder);
         const HotFolderCollection folders;

@@ -1,6 +1,6 @@
 #include "FileOperations.h"
 
-#include "PathSeparators.h"
+#include "systemCalls.h"
 
 #include <cerrno>
 #include <chrono>
@@ -27,16 +27,6 @@ namespace IO
 
 namespace
 {
-
-std::string systemPath(const String& path)
-{
-    return toSystemPath(path).toUtf8();
-}
-
-SystemError resultOf(int returned) noexcept
-{
-    return returned == 0 ? 0 : static_cast<SystemError>(errno);
-}
 
 class SystemFileOperations final : public FileOperations
 {

@@ -1,6 +1,6 @@
 #include "brimlow/system/FileTree.h"
 
-#include "PathSeparators.h"
+#include "systemCalls.h"
 
 #include <array>
 #include <cerrno>
@@ -19,16 +19,6 @@ namespace
 {
 
 namespace fs = std::filesystem;
-
-std::string systemPath(const String& path)
-{
-    return toSystemPath(path).toUtf8();
-}
-
-SystemError resultOf(int returned) noexcept
-{
-    return returned == 0 ? 0 : static_cast<SystemError>(errno);
-}
 
 class Descriptor
 {

@@ -1,5 +1,7 @@
 #include "FileOperations.h"
 
+#include "systemCalls.h"
+
 #include "platform/handles.h"
 
 #include <algorithm>
@@ -32,11 +34,6 @@ namespace
 {
 
 constexpr DWORD shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-
-SystemError resultOf(BOOL success) noexcept
-{
-    return success ? 0 : GetLastError();
-}
 
 // Fills descriptor with the access list of the file.
 SystemError readAccessList(const String& path, std::vector<std::byte>& descriptor)

@@ -2,6 +2,7 @@
 
 #include "FolderSearch.h"
 #include "extendedPath.h"
+#include "systemCalls.h"
 
 #include <cstdint>
 #include <vector>
@@ -11,11 +12,6 @@ namespace Core::IO
 
 namespace
 {
-
-SystemError resultOf(BOOL success) noexcept
-{
-    return success ? 0 : GetLastError();
-}
 
 constexpr std::uint64_t ticks(const FILETIME& time) noexcept
 {

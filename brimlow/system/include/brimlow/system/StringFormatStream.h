@@ -30,4 +30,13 @@ class StringFormatStream
     std::vector<String> m_arguments;
 };
 
+// The text with these arguments in the place of its placeholders.
+template <class... Arguments>
+String format(const wchar_t* text, const Arguments&... arguments)
+{
+    StringFormatStream stream(text);
+    (stream << ... << arguments);
+    return stream.getString();
+}
+
 } // namespace Core

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "brimlow/security/Certificate.h"
-#include "tmgmt/frame/Item.h"
+#include "tmgmt/frame/Row.h"
 
 namespace TMgmt
 {
 
 // One certificate: a row of "Server Certificates", as it stood in the store when the list was read.
-class CertificateItem : public Item<CertificateItem>
+class CertificateItem : public DeletableRow<CertificateItem>
 {
   public:
     static constexpr GUID nodeType{0xefb371e2, 0xfc43, 0x4d1a, {0xa0, 0x71, 0x56, 0xf5, 0x31, 0x51, 0xf4, 0x23}};
@@ -19,17 +19,13 @@ class CertificateItem : public Item<CertificateItem>
     const wchar_t* GetResultPaneColInfo(int column) override;
     HRESULT Command(long command, Console& console, DATA_OBJECT_TYPES type) override;
     HRESULT OnDblClick(Console& console) override;
-    HRESULT OnSelect(bool isScope, bool isSelected, Console& console) override;
     HRESULT OnDelete(Console& console) override;
-    HRESULT OnViewChange(LPARAM data, LPARAM hint, Console& console) override;
 
   private:
     HRESULT uninstall(Console& console);
     HRESULT exportToFile() const;
     HRESULT showProperties() const;
 
-    // By its cookie: a row can outlive the tree that it belongs to.
-    MMC_COOKIE m_parent;
     Core::String m_issuer;
     Core::String m_serialNumber;
     Core::String m_subject;

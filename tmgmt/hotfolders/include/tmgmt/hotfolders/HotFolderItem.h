@@ -1,13 +1,13 @@
 #pragma once
 
 #include "brimlow/hotfolder/HotFolder.h"
-#include "tmgmt/frame/Item.h"
+#include "tmgmt/frame/Row.h"
 
 namespace TMgmt
 {
 
 // One hot folder, as it was stored when the list was read, or as it was edited here since.
-class HotFolderItem : public Item<HotFolderItem>
+class HotFolderItem : public DeletableRow<HotFolderItem>
 {
   public:
     static constexpr GUID nodeType{0x5cef680a, 0xbf2e, 0x49f5, {0xb0, 0x74, 0x59, 0xd8, 0xcb, 0x29, 0x61, 0x2d}};
@@ -20,15 +20,12 @@ class HotFolderItem : public Item<HotFolderItem>
     HRESULT Command(long command, Console& console, DATA_OBJECT_TYPES type) override;
     HRESULT OnShow(bool selecting, HSCOPEITEM node, Console& console) override;
     HRESULT OnDblClick(Console& console) override;
-    HRESULT OnSelect(bool isScope, bool isSelected, Console& console) override;
     HRESULT OnDelete(Console& console) override;
-    HRESULT OnViewChange(LPARAM data, LPARAM hint, Console& console) override;
 
   private:
     HRESULT edit(Console& console);
 
     HotFolders::HotFolder m_hotFolder;
-    MMC_COOKIE m_parent;
     // The name that the console was given last; the library makes a new one each time.
     Core::String m_name;
 };

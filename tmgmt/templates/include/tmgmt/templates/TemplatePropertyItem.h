@@ -1,13 +1,13 @@
 #pragma once
 
 #include "brimlow/tessaro/ServerApplication.h"
-#include "tmgmt/frame/Item.h"
+#include "tmgmt/frame/Row.h"
 
 namespace TMgmt
 {
 
 // One template of an application, as it was stored when the list was read.
-class TemplatePropertyItem : public Item<TemplatePropertyItem>
+class TemplatePropertyItem : public DeletableRow<TemplatePropertyItem>
 {
   public:
     static constexpr GUID nodeType{0xe0df66eb, 0x957a, 0x4c1d, {0xb1, 0x8e, 0x6e, 0x4d, 0x55, 0xdb, 0xf3, 0xc9}};
@@ -20,15 +20,11 @@ class TemplatePropertyItem : public Item<TemplatePropertyItem>
     const wchar_t* GetResultPaneColInfo(int column) override;
     HRESULT Command(long command, Console& console, DATA_OBJECT_TYPES type) override;
     HRESULT OnDblClick(Console& console) override;
-    HRESULT OnSelect(bool isScope, bool isSelected, Console& console) override;
     HRESULT OnDelete(Console& console) override;
-    HRESULT OnViewChange(LPARAM data, LPARAM hint, Console& console) override;
 
   private:
     HRESULT rename(Console& console);
 
-    // By its cookie: a row can outlive the tree that it belongs to.
-    MMC_COOKIE m_applicationNode;
     Tessaro::ServerApplication m_application;
     Tessaro::Template m_template;
     Core::String m_name;

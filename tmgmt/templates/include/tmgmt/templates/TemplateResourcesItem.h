@@ -1,13 +1,13 @@
 #pragma once
 
 #include "brimlow/tessaro/ResourcesFolder.h"
-#include "tmgmt/frame/Item.h"
+#include "tmgmt/frame/Row.h"
 
 namespace TMgmt
 {
 
 // One file of a resource folder, as it was stored when the list was read.
-class TemplateResourcesItem : public Item<TemplateResourcesItem>
+class TemplateResourcesItem : public DeletableRow<TemplateResourcesItem>
 {
   public:
     // TemplateUserItem has the same one: kept as is, since both are registered so.
@@ -21,15 +21,11 @@ class TemplateResourcesItem : public Item<TemplateResourcesItem>
     const wchar_t* GetResultPaneColInfo(int column) override;
     HRESULT Command(long command, Console& console, DATA_OBJECT_TYPES type) override;
     HRESULT OnDblClick(Console& console) override;
-    HRESULT OnSelect(bool isScope, bool isSelected, Console& console) override;
     HRESULT OnDelete(Console& console) override;
-    HRESULT OnViewChange(LPARAM data, LPARAM hint, Console& console) override;
 
   private:
     HRESULT rename(Console& console);
 
-    // By its cookie: a row can outlive the tree that it belongs to.
-    MMC_COOKIE m_parent;
     Tessaro::ResourcesFolder m_folder;
     Tessaro::ResourceFile m_file;
     Core::String m_name;

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "brimlow/tessaro/ServerApplication.h"
-#include "tmgmt/frame/Item.h"
+#include "tmgmt/frame/Row.h"
 
 namespace TMgmt
 {
 
 // A user who may use the templates of an application.
-class TemplateUserItem : public Item<TemplateUserItem>
+class TemplateUserItem : public DeletableRow<TemplateUserItem>
 {
   public:
     // TemplateResourcesItem has the same one: kept as is, since both are registered so.
@@ -18,13 +18,9 @@ class TemplateUserItem : public Item<TemplateUserItem>
                      const Core::String& username, bool enabled);
 
     const wchar_t* GetResultPaneColInfo(int column) override;
-    HRESULT OnSelect(bool isScope, bool isSelected, Console& console) override;
     HRESULT OnDelete(Console& console) override;
-    HRESULT OnViewChange(LPARAM data, LPARAM hint, Console& console) override;
 
   private:
-    // By its cookie: a row can outlive the tree that it belongs to.
-    MMC_COOKIE m_parent;
     Tessaro::ServerApplication m_application;
     Core::String m_username;
 };

@@ -1,9 +1,8 @@
 #pragma once
 
 #include "brimlow/system/String.h"
-#include "tmgmt/frame/Item.h"
+#include "tmgmt/frame/Row.h"
 #include "tmgmt/frame/yesOrNo.h"
-#include "tmgmt/snapin/ItemAccess.h"
 
 namespace TMgmt
 {
@@ -11,7 +10,7 @@ namespace TMgmt
 // One row of "Users": an account that is enabled or not, and is edited by its command or by a double-click. T is the
 // node's class.
 template <class T>
-class AccountItem : public Item<T>
+class AccountItem : public Row<T>
 {
   public:
     static constexpr UINT menu = IDM_USER;
@@ -31,22 +30,15 @@ class AccountItem : public Item<T>
 
     HRESULT Command(long command, Console& console, DATA_OBJECT_TYPES type) override
     {
-        return command == ID_EDIT_USER ? edit(console) : Item<T>::Command(command, console, type);
+        return command == ID_EDIT_USER ? edit(console) : Row<T>::Command(command, console, type);
     }
 
     HRESULT OnDblClick(Console& console) override { return edit(console); }
 
-    HRESULT OnViewChange(LPARAM, LPARAM, Console& console) override
-    {
-        console.updateRow(*this);
-        return S_OK;
-    }
-
   protected:
     // parent is the node that lists this one. displayName is the console's name for it, which is not shown.
     AccountItem(const CSnapInItem& parent, const wchar_t* displayName, Core::String name, bool enabled)
-        : Item<T>(ResultNode{.displayName = displayName, .image = enabled ? 17 : 23}),
-          m_parent(parent.cookie()),
+        : Row<T>(parent, ResultNode{.displayName = displayName, .image = enabled ? 17 : 23}),
           m_name(std::move(name)),
           m_enabled(enabled)
     {
@@ -65,13 +57,12 @@ class AccountItem : public Item<T>
     // Goes to "Users" and reads its list anew, which lets this row go; the caller holds it.
     void refreshUsers(Console& console)
     {
-        const Core::SmartPtr<CSnapInItem> users = itemOfCookie(m_parent);
+        const Core::SmartPtr<CSnapInItem> users = this->lister();
         console.selectScopeItem(users->GetScopeData().ID);
         console.refreshResultList(*users);
     }
 
   private:
-    MMC_COOKIE m_parent;
     Core::String m_name;
     bool m_enabled;
 };
