@@ -30,9 +30,21 @@ function(tm_program name)
   endif()
 endfunction()
 
-# Gives the files of a test program to the compiler folder by folder, some at a time: nearly all that compiling a test
-# takes is reading GoogleTest's and the system's headers.
-function(tm_unite_by_folder name)
+# A program of tests: not optimized, since it is built more often than it is run.
+function(tm_tests name)
+  tm_program(${name} ${ARGN})
+  target_compile_options(${name} PRIVATE -O0)
+endfunction()
+
+# Has the files of a test program compiled folder by folder, some together: nearly all of a test's compilation is reading
+# GoogleTest's and the system's headers. Files of one folder then cannot define the same name. Sources that are added
+# later in this folder or below it count.
+function(tm_compile_together name)
+  # A deferred call evaluates its arguments only when it is made.
+  cmake_language(EVAL CODE "cmake_language(DEFER CALL tm_group_by_folder ${name})")
+endfunction()
+
+function(tm_group_by_folder name)
   set(together 8)
   get_target_property(sources ${name} SOURCES)
   list(FILTER sources INCLUDE REGEX "\\.cpp$")
@@ -47,12 +59,6 @@ function(tm_unite_by_folder name)
     set_source_files_properties(${source} TARGET_DIRECTORY ${name} PROPERTIES UNITY_GROUP ${group}_${batch})
   endforeach()
   set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
-endfunction()
-
-# A program of tests. Whole folders of them are compiled at once, and not optimized: they are built more often than run.
-function(tm_tests name)
-  tm_program(${name} ${ARGN})
-  target_compile_options(${name} PRIVATE -O0)
-  # A deferred call sees its arguments evaluated only when it is made.
-  cmake_language(EVAL CODE "cmake_language(DEFER CALL tm_unite_by_folder ${name})")
+  # A test outside of the nameless namespace in which its fixture is: harmless in a source, taken for a header here.
+  target_compile_options(${name} PRIVATE -Wno-subobject-linkage)
 endfunction()

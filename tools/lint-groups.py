@@ -50,7 +50,7 @@ for folder, sources in sorted(folders.items(), key=lambda item: -len(item[1])):
         f'#include "{os.path.abspath(source)}" // NOLINT(bugprone-suspicious-include)\n' for source in sources))
     # What single sources get beyond the others (a corpus' place) makes the longest command.
     command = max((found[source] for source in sources), key=len)
-    entries.append({"directory": os.path.abspath(f"out/{preset}"), "file": group, "command": f"{command} -c {group}"})
+    entries.append({"directory": os.path.abspath(f"out/{preset}"), "file": group, "command": f"{command} -Wno-unknown-warning-option -c {group}"})
     groups.append(group)
 write_if_new(os.path.join(place, "compile_commands.json"), json.dumps(entries, indent=1))
 print("\n".join(groups))

@@ -86,11 +86,10 @@ void Connection::upgrade(const Schema& schema)
     const int from = readVersion();
     if (from > schema.version)
     {
-        throw DatabaseException((Core::StringFormatStream(L"The database \"{0}\" was written by a newer version of "
-                                                          L"the product (format {1}, and not {2}). Please use the "
-                                                          L"newer version.")
-                                 << m_path << from << schema.version)
-                                    .getString());
+        throw DatabaseException(Core::format(L"The database \"{0}\" was written by a newer version of "
+                                             L"the product (format {1}, and not {2}). Please use the "
+                                             L"newer version.",
+                                             m_path, from, schema.version));
     }
     if (from == schema.version)
     {

@@ -29,7 +29,7 @@ Core::String systemReason(sqlite3* database)
 
 Core::String format(const wchar_t* sentence, const Core::String& path, const Core::String& reason)
 {
-    return (Core::StringFormatStream(sentence) << path << reason).getString();
+    return Core::format(sentence, path, reason);
 }
 
 } // namespace

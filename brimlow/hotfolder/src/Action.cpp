@@ -13,11 +13,11 @@ Core::String Action::getDescription() const
     case ActionType::DeleteInputFile:
         return L"Delete input file";
     case ActionType::MoveInputFile:
-        return (Core::StringFormatStream(L"Move input file to {0}") << m_destinationPath).getString();
+        return Core::format(L"Move input file to {0}", m_destinationPath);
     case ActionType::CallWebService:
-        return (Core::StringFormatStream(L"Call {0}") << m_httpUrl).getString();
+        return Core::format(L"Call {0}", m_httpUrl);
     }
-    return (Core::StringFormatStream(L"Unknown action {0}") << static_cast<int>(m_type)).getString();
+    return Core::format(L"Unknown action {0}", static_cast<int>(m_type));
 }
 
 } // namespace HotFolders

@@ -104,10 +104,9 @@ void HotFolderTable::update(Connection& connection, const HotFolder& folder)
                 fields.folderXslTemplate, fields.baseUrl, fields.row, fields.identity);
     if (!update.step())
     {
-        throw Core::Exception((Core::StringFormatStream(L"The hot folder \"{0}\" has been removed by another program. "
-                                                        L"Please refresh the list.")
-                               << fields.folder)
-                                  .getString());
+        throw Core::Exception(Core::format(L"The hot folder \"{0}\" has been removed by another program. "
+                                           L"Please refresh the list.",
+                                           fields.folder));
     }
     ActionTable::remove(connection, fields.row);
     ActionTable::add(connection, fields.row, fields.onSuccessActionList, fields.onFailureActionList);
@@ -141,9 +140,8 @@ void HotFolderTable::checkUnique(Connection& connection, const HotFolder& folder
     other.bind(comparisonKey(fields.folder), comparisonKey(fields.fileMatchPattern), fields.row);
     if (other.step())
     {
-        throw Core::Exception((Core::StringFormatStream(L"Another hot folder already watches \"{0}\" for \"{1}\".")
-                               << other.getText(0) << other.getText(1))
-                                  .getString());
+        throw Core::Exception(Core::format(L"Another hot folder already watches \"{0}\" for \"{1}\".", other.getText(0),
+                                           other.getText(1)));
     }
 }
 

@@ -12,7 +12,6 @@ namespace
 {
 
 using Core::String;
-using Core::StringFormatStream;
 namespace FileSystem = Core::IO::FileSystem;
 
 // Each returns one sentence about what is wrong, or the empty text.
@@ -21,18 +20,17 @@ String checkFolder(const String& role, const String& folder, bool mustExist)
 {
     if (folder.empty())
     {
-        return (StringFormatStream(L"Please enter the {0} folder.") << role).getString();
+        return Core::format(L"Please enter the {0} folder.", role);
     }
     if (!isFullPath(folder))
     {
-        return (StringFormatStream(L"The {0} folder \"{1}\" is not a full path such as \"C:\\Documents\" or "
-                                   L"\"\\\\server\\share\".")
-                << role << folder)
-            .getString();
+        return Core::format(L"The {0} folder \"{1}\" is not a full path such as \"C:\\Documents\" or "
+                            L"\"\\\\server\\share\".",
+                            role, folder);
     }
     if (mustExist && !FileSystem::folderExists(folder))
     {
-        return (StringFormatStream(L"The {0} folder \"{1}\" does not exist.") << role << folder).getString();
+        return Core::format(L"The {0} folder \"{1}\" does not exist.", role, folder);
     }
     return {};
 }
@@ -45,8 +43,7 @@ String checkPattern(const String& pattern)
     }
     if (containsSeparator(pattern))
     {
-        return (StringFormatStream(L"The file pattern \"{0}\" must not contain \"\\\" or \"/\".") << pattern)
-            .getString();
+        return Core::format(L"The file pattern \"{0}\" must not contain \"\\\" or \"/\".", pattern);
     }
     return {};
 }
@@ -59,11 +56,11 @@ String checkStylesheet(const String& file)
     }
     if (!isFullPath(file))
     {
-        return (StringFormatStream(L"The stylesheet file \"{0}\" is not a full path.") << file).getString();
+        return Core::format(L"The stylesheet file \"{0}\" is not a full path.", file);
     }
     if (!FileSystem::fileExists(file))
     {
-        return (StringFormatStream(L"The stylesheet file \"{0}\" does not exist.") << file).getString();
+        return Core::format(L"The stylesheet file \"{0}\" does not exist.", file);
     }
     return {};
 }
@@ -82,14 +79,12 @@ String checkActions(const String& outcome, const ActionList& actions)
     {
         if (action.getType() == ActionType::MoveInputFile && action.getDestinationPath().empty())
         {
-            return (StringFormatStream(L"The action on {0} that moves the input file names no folder.") << outcome)
-                .getString();
+            return Core::format(L"The action on {0} that moves the input file names no folder.", outcome);
         }
         if (action.getType() == ActionType::CallWebService && !isWebUrl(action.getHttpUrl()))
         {
-            return (StringFormatStream(L"The action on {0} calls \"{1}\", which is not an http or https URL.")
-                    << outcome << action.getHttpUrl())
-                .getString();
+            return Core::format(L"The action on {0} calls \"{1}\", which is not an http or https URL.", outcome,
+                                action.getHttpUrl());
         }
     }
     return {};
@@ -99,8 +94,7 @@ String checkDifferent(const HotFolder& folder)
 {
     if (comparisonKey(folder.getFolder()) == comparisonKey(folder.getOutputFolder()))
     {
-        return (StringFormatStream(L"The input folder and the output folder are both \"{0}\".") << folder.getFolder())
-            .getString();
+        return Core::format(L"The input folder and the output folder are both \"{0}\".", folder.getFolder());
     }
     return {};
 }
@@ -109,8 +103,7 @@ String checkPageIndex(int index)
 {
     if (index < 0)
     {
-        return (StringFormatStream(L"The page index {0} is negative; the first page has index 0.") << index)
-            .getString();
+        return Core::format(L"The page index {0} is negative; the first page has index 0.", index);
     }
     return {};
 }

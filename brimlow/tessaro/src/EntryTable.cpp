@@ -90,9 +90,7 @@ void EntryTable::remove(Connection& connection, std::int64_t row) const
 void EntryTable::failAsRemoved(const String& name) const
 {
     throw Core::Exception(
-        (Core::StringFormatStream(L"The {0} \"{1}\" has been removed by another program. Please refresh the list.")
-         << noun << name)
-            .getString());
+        Core::format(L"The {0} \"{1}\" has been removed by another program. Please refresh the list.", noun, name));
 }
 
 void EntryTable::checkFree(const Connection& connection, std::int64_t owner, std::int64_t row, const String& name) const
@@ -101,9 +99,7 @@ void EntryTable::checkFree(const Connection& connection, std::int64_t owner, std
     if (other && other->row != row)
     {
         throw Core::Exception(
-            (Core::StringFormatStream(L"The name \"{0}\" is taken by another {1}. Please choose another name.")
-             << other->name << noun)
-                .getString());
+            Core::format(L"The name \"{0}\" is taken by another {1}. Please choose another name.", other->name, noun));
     }
 }
 

@@ -88,7 +88,7 @@ String parentOf(const String& relative)
 
 String sentence(const wchar_t* text, const String& path)
 {
-    return (Core::StringFormatStream(text) << path).getString();
+    return Core::format(text, path);
 }
 
 } // namespace

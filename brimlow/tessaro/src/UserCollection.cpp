@@ -41,7 +41,7 @@ const User& UserCollection::getUserByName(const Core::String& name) const
     const auto found = m_positions.find(name);
     if (found == m_positions.end())
     {
-        throw Core::Exception((Core::StringFormatStream(L"There is no user \"{0}\".") << name).getString());
+        throw Core::Exception(Core::format(L"There is no user \"{0}\".", name));
     }
     return getAt(found->second);
 }

@@ -96,7 +96,7 @@ const wchar_t* refusalOf(const String& name)
 std::optional<String> nameRefusal(const String& name)
 {
     const wchar_t* const sentence = refusalOf(name);
-    return sentence ? std::optional((Core::StringFormatStream(sentence) << name).getString()) : std::nullopt;
+    return sentence ? std::optional(Core::format(sentence, name)) : std::nullopt;
 }
 
 const String& checkedName(const String& name)
