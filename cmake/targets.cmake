@@ -30,10 +30,11 @@ function(tm_program name)
   endif()
 endfunction()
 
-# A program of tests: not optimized, since it is built more often than it is run.
+# A program of tests: not optimized, since it is built more often than it is run. The compiler then no longer sees what
+# is initialized.
 function(tm_tests name)
   tm_program(${name} ${ARGN})
-  target_compile_options(${name} PRIVATE -O0)
+  target_compile_options(${name} PRIVATE -O0 -Wno-maybe-uninitialized)
 endfunction()
 
 # Has the files of a test program compiled folder by folder, some together: nearly all of a test's compilation is reading

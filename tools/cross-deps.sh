@@ -12,7 +12,9 @@ sqlite_version=$(dpkg-query -W -f='${Version}' libsqlite3-dev)
 gtest_version=$(dpkg-query -W -f='${Version}' googletest)
 compiler=$(x86_64-w64-mingw32-g++-posix -dumpfullversion)
 cache=${XDG_CACHE_HOME:-$HOME/.cache}/kv-tessaro-management
-deps=$cache/windows-x64-gcc$compiler-openssl$openssl_version-pugixml$pugixml_version-sqlite$sqlite_version-gtest$gtest_version
+# The recipe counts, too: this script.
+recipe=$(sha256sum "$here/tools/cross-deps.sh" | cut -c1-8)
+deps=$cache/windows-x64-gcc$compiler-openssl$openssl_version-pugixml$pugixml_version-sqlite$sqlite_version-gtest$gtest_version-$recipe
 if [ -e "$deps" ]; then
   echo "$deps"
   exit 0

@@ -1,5 +1,6 @@
 #include "frame/BareSnapIn.h"
 #include "frame/SimulatedService.h"
+#include "frame/serviceCommands.h"
 #include "kit/ConsoleTest.h"
 #include "kit/windows.h"
 
@@ -7,9 +8,6 @@ namespace Acceptance
 {
 namespace
 {
-
-constexpr long startCommand = 1002;
-constexpr long stopCommand = 1003;
 
 // Start and stop as they treat the service manager, without waiting for a real service.
 class ServiceControl : public ConsoleTest

@@ -1,5 +1,6 @@
 #include "frame/BareSnapIn.h"
 #include "frame/SimulatedService.h"
+#include "frame/serviceCommands.h"
 #include "kit/ConsoleTest.h"
 #include "kit/windows.h"
 
@@ -8,8 +9,6 @@ namespace Acceptance
 namespace
 {
 
-constexpr int startCommand = 1002;
-constexpr int stopCommand = 1003;
 const LPARAM selectedRow = MAKELONG(FALSE, TRUE);
 
 using States = std::map<std::pair<int, MMC_BUTTON_STATE>, bool>;
