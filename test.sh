@@ -45,6 +45,11 @@ tests() {
   failed=$((failed + bad))
 }
 
+# resolution DPI: of the screen, for the programs that start from now on.
+resolution() {
+  wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$1" /f >/dev/null 2>&1
+}
+
 finish() {
   echo "$passed passed, $failed failed"
   [ "$failed" -eq 0 ]
@@ -74,7 +79,13 @@ use_prefix "$PWD/out/test-prefix"
 # A service that an earlier run left behind would answer for the new one.
 wine out/windows-x64/TSvcStandIn.exe uninstall >/dev/null 2>&1
 verdict register wine regsvr32 /s "$(windows_path out/windows-x64/TMgmt.dll)"
+resolution 96
 for program in UnitTests PluginTests HostTests WindowTests StandInTests AcceptanceTests; do
   tests "$program" 1200 wine "out/windows-x64/$program.exe"
 done
+for dpi in 144 192; do
+  resolution $dpi
+  tests "PluginTests-at-$dpi-dpi" 300 wine out/windows-x64/PluginTests.exe '--gtest_filter=*Fit.hasRoomForItsTexts/*'
+done
+resolution 96
 finish
