@@ -37,8 +37,8 @@ TemplateUserCollection::Rows TemplateUserCollection::readRows()
     try
     {
         Tessaro::ServerTemplates templates;
-        // The id is a position, so that this node shows its neighbour's users once an application before its own was
-        // removed: kept as is.
+        // Kept as is: the id is a position, so that this node shows its neighbour's users once an application before
+        // its own was removed.
         m_application = templates.getAt(m_application.getId());
         return rowsOf(Tessaro::UserCollection());
     }
