@@ -71,13 +71,24 @@ native_lane() {
   tests UnitTests-native 900 out/native/UnitTests
 }
 
+# resolution DPI: of the screen, for the programs that start from now on.
+resolution() {
+  wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$1" /f >/dev/null 2>&1
+}
+
 # Only the tests of the restart and of the stand-in itself use the server's default port, which all lanes share.
 programs_lane() {
+  local program dpi
   enter_wine programs
-  local program
+  resolution 96
   for program in UnitTests PluginTests HostTests WindowTests StandInTests; do
     tests "$program" 900 wine "out/windows-x64/$program.exe"
   done
+  for dpi in 144 192; do
+    resolution $dpi
+    tests "PluginTests-at-$dpi-dpi" 300 wine out/windows-x64/PluginTests.exe --gtest_filter='*Fit.hasRoomForItsTexts/*'
+  done
+  resolution 96
   tests AcceptanceTests-restart 300 wine out/windows-x64/AcceptanceTests.exe --gtest_filter='Restart.*'
 }
 

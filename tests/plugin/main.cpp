@@ -7,6 +7,8 @@
 extern "C" int wmain(int argumentCount, wchar_t** arguments)
 {
     testing::InitGoogleTest(&argumentCount, arguments);
+    // As the console that the plug-in is made for; otherwise Windows would show 96 dots per inch everywhere.
+    SetProcessDPIAware();
     OleInitialize(nullptr);
     // Lives until the process ends: googletest owns its listeners.
     testing::UnitTest::GetInstance()->listeners().Append(new Acceptance::Watchdog(std::chrono::seconds{60}));

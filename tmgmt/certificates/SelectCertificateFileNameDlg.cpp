@@ -12,7 +12,8 @@ namespace TMgmt
 {
 
 SelectCertificateFileNameDlg::SelectCertificateFileNameDlg(WizImportCertificate& wizard)
-    // The page itself speaks of a private key, which the file has too; "Your can": both kept as they are.
+    // The file has the key too. Kept as is: under the header "Certificate File Name" the page speaks of a private
+    // key, and its subtitle begins with "Your can".
     : FileNamePage(wizard, IDD_WIZARD_CERTIFICATE_FILE, L"Certificate File Name",
                    L"Your can import a certificate from a *.p12 or *.pfx file."),
       m_wizard(wizard)

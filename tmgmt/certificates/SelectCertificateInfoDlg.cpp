@@ -26,7 +26,7 @@ constexpr WPARAM countryLength = 2;
 } // namespace
 
 SelectCertificateInfoDlg::SelectCertificateInfoDlg(WizImportCertificate& wizard)
-    // What it leaves open, other organizations, is kept as is.
+    // Kept as is: the subtitle ends in "distinguishes it from organizations".
     : WizardPage(wizard, IDD_WIZARD_SUBJECT, L"Certificate Information",
                  L"Your certificate must include information about your organization that distinguishes it from "
                  L"organizations."),

@@ -22,7 +22,8 @@ void SelectCertificateRequestFileNameDlg::onInit()
 
 FilePicker SelectCertificateRequestFileNameDlg::picker() const
 {
-    // For a file to open, though this one is written: kept as is. So it need not be there.
+    // So the file need not be there. Kept as is: the file of a request is chosen as one to open, though it is
+    // written.
     return {.filters = {{L"Text files (*.txt)", L"*.txt"}}, .flags = OFN_PATHMUSTEXIST | OFN_HIDEREADONLY};
 }
 

@@ -53,7 +53,8 @@ HRESULT LogListPropertyItem::OnDelete(Console& console)
 HRESULT LogListPropertyItem::open() const
 {
     const Core::String folder = LogFolder::path();
-    // The bare name, which the shell looks for in that folder: kept as is. It tells the user itself what it cannot do.
+    // The shell tells the user itself what it cannot do. Kept as is: a log is opened by its bare name, which the
+    // shell looks for in that folder.
     ShellExecuteW(nullptr, L"open", m_fileName.c_str(), nullptr, folder.c_str(), SW_SHOWNORMAL);
     return S_OK;
 }

@@ -52,8 +52,8 @@ HRESULT PrivateFontPropertyItem::edit(Console& console)
     AddPrivateFontDlg dialog;
     dialog.font = m_font;
     dialog.restart = readRestartPreference();
-    // Made from what the row shows. A key that another program wrote can differ from it; then the old entry is not
-    // found and stays beside the new one: kept as is.
+    // Made from what the row shows. Kept as is: an entry whose key another program wrote differently is not found and
+    // stays beside the new one.
     m_storedKey = fontKey(dialog.font);
     if (dialog.show(GetActiveWindow()) != IDOK)
     {
@@ -71,7 +71,7 @@ HRESULT PrivateFontPropertyItem::edit(Console& console)
 // After the file was changed: the list anew, and the service where it is to take changes at once.
 void PrivateFontPropertyItem::showChange(Console& console)
 {
-    // The node's own number stands where a handle of the console's belongs, so that nothing is selected: kept as is.
+    // Kept as is: the node's own number stands where a handle of the console's belongs, so that nothing is selected.
     console.selectScopeItem(listerCookie());
     console.refreshResultList(*lister());
     if (readRestartPreference())

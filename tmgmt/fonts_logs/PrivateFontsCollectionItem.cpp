@@ -24,8 +24,8 @@ HRESULT PrivateFontsCollectionItem::OnShow(bool selecting, HSCOPEITEM, Console& 
         return S_OK;
     }
     console.switchSortingOff();
-    // Both of the first two are asked for at 1. The first finds an empty header and comes to 0, where the second
-    // leaves it: kept as is.
+    // The first finds an empty header and comes to 0, where the second leaves it. Kept as is: both of the first two
+    // columns are asked for at 1.
     console.insertColumn(1, L"Font Family Name", 150);
     console.insertColumn(1, L"Font File Path", 350);
     console.insertColumn(2, L"Is Bold", 100);

@@ -25,6 +25,7 @@ HRESULT RootItem::OnShow(bool selecting, HSCOPEITEM, Console& console)
 
 HRESULT RootItem::OnExpand(bool expanding, HSCOPEITEM handle, Console& console)
 {
+    // Kept as is: "About KV Tessaro" comes before the branches that work is done in.
     const std::array children{m_branches.about,        m_branches.hotFolders, m_branches.templates, m_branches.users,
                               m_branches.certificates, m_branches.settings,   m_branches.log};
     return expandChildren(*this, children, expanding, handle, console);

@@ -7,7 +7,7 @@ namespace TMgmt
 
 void reportRefusal(const Core::Exception& exception) noexcept
 {
-    // The caption is spelled so: kept as is.
+    // Kept as is: the caption is spelled "Error Occured".
     showMessage(nullptr, exception.getMessage().c_str(), L"Error Occured", MB_OK | MB_ICONERROR);
 }
 

@@ -49,7 +49,7 @@ void EditHotFolderActionDlg::onCommand(int control, int notification)
     {
         Dialog::onCommand(control, notification);
     }
-    // The title is the one of the input folder: kept as is.
+    // Kept as is: the title is the one under which an input folder is chosen.
     else if (const auto path = FolderPicker{L"Select a folder to monitor"}.pick(window()))
     {
         setText(IDC_ACTION_FOLDER, *path);

@@ -58,7 +58,7 @@ bool EditHotFolderDlg::onInit()
     setText(IDC_HOT_FOLDER_PATTERN, hotFolder.getFileMatchPattern().str());
     setChecked(IDC_RESTART_SERVICE, restart);
     setChecked(IDC_HOT_FOLDER_MONITORING, hotFolder.isMonitoringEnabled());
-    // Without a stylesheet its field shows the base URL: kept as is.
+    // Kept as is: without a stylesheet its field shows the base URL.
     const bool stylesheet = hotFolder.applyFolderXslTemplate();
     setText(IDC_HOT_FOLDER_STYLESHEET,
             stylesheet ? hotFolder.getFolderXslTemplate().str() : hotFolder.getBaseUrl().str());
@@ -205,7 +205,7 @@ void EditHotFolderDlg::store()
     hotFolder.setFolder(text(IDC_HOT_FOLDER_INPUT));
     hotFolder.setOutputFolder(text(IDC_HOT_FOLDER_OUTPUT));
     hotFolder.setFileMatchPattern(text(IDC_HOT_FOLDER_PATTERN));
-    // The base URL comes from the field of the stylesheet, whatever was entered under "Settings": kept as is.
+    // Kept as is: the base URL comes from the field of the stylesheet, whatever was entered under "Settings".
     hotFolder.setBaseUrl(text(IDC_HOT_FOLDER_STYLESHEET));
     restart = isChecked(IDC_RESTART_SERVICE);
     hotFolder.setEnableMonitoring(isChecked(IDC_HOT_FOLDER_MONITORING));
@@ -218,6 +218,7 @@ void EditHotFolderDlg::store()
         throwNoFormat();
     }
     hotFolder.setOutputFormat(*format);
+    // Kept as is: the page index of a JPEG or GIF can be edited and is stored as 0.
     hotFolder.setPageIndex(pageIndexToStore(index, text(IDC_HOT_FOLDER_PAGE_INDEX)));
 }
 

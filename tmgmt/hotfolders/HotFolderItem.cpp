@@ -38,7 +38,7 @@ HRESULT HotFolderItem::Command(long command, Console& console, DATA_OBJECT_TYPES
     return command == ID_HOT_FOLDER_PROPERTIES ? edit(console) : DeletableRow::Command(command, console, type);
 }
 
-// A view of its own, which a row of a list is never asked for in a console.
+// Kept as is: a hot folder has a view of its own, which no console asks a row for.
 HRESULT HotFolderItem::OnShow(bool selecting, HSCOPEITEM, Console& console)
 {
     if (selecting)
@@ -67,7 +67,7 @@ HRESULT HotFolderItem::edit(Console& console)
     {
         return S_OK;
     }
-    // The row shows what was entered from now on, even when it cannot be stored: kept as is.
+    // Kept as is: the row of a hot folder shows what was entered even when it cannot be stored.
     m_hotFolder = editor.hotFolder;
     if (!accepted([&] { HotFolders::HotFolderCollection().updateFolder(m_hotFolder); }))
     {

@@ -46,7 +46,7 @@ bool EditEnumPropertyDlg::onInit()
             break;
         }
     }
-    // The last button gets the focus whether it is visible or not: kept as is.
+    // Kept as is: the last button gets the focus whether it is visible or not.
     setFocus(IDC_PROPERTY_OPTION_LAST);
     return false;
 }

@@ -26,8 +26,8 @@ bool EditPropertyDlg::onInit()
 
 void EditPropertyDlg::onOk()
 {
-    // The member takes every attempt, refused ones too, so a second refusal in a row gives back the text of the first:
-    // kept as is.
+    // The member takes every attempt, refused ones too. Kept as is: a second refusal in a row gives back the text of
+    // the first.
     const std::wstring former = value;
     value = text(IDC_PROPERTY_VALUE);
     const auto checked = checkProperty(kind, value);

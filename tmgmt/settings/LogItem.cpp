@@ -10,7 +10,8 @@ namespace TMgmt
 LogItem::LogItem(const Core::SmartPtr<FileReport>& report, Core::SmartPtr<CSnapInItem> logFiles)
     : Item(ScopeNode{.displayName = L"Log", .image = 8, .childCount = 1}), m_logFiles(std::move(logFiles))
 {
-    // The description speaks of two levels, and four are offered: kept as is, administrators have it in their papers.
+    // Administrators have the description in their papers. Kept as is: it speaks of two log levels, and four are
+    // offered.
     m_properties.emplace_back(new PropertyItem(
         SettingKey::logLevel, L"None",
         {{L"None", L"None"}, {L"Normal", L"Normal"}, {L"All", L"All"}, {L"Debug", L"Debug"}}, L"Log Level",

@@ -7,7 +7,7 @@
 namespace TMgmt
 {
 
-// It declares two children and inserts three: kept as is, the console only asks whether there are any.
+// The console only asks whether there are any. Kept as is: "Engine Settings" declares two children and inserts three.
 SettingsItem::SettingsItem(SettingsBranches branches)
     : Item(ScopeNode{.displayName = L"Engine Settings", .image = 1, .childCount = 2}), m_branches(std::move(branches))
 {

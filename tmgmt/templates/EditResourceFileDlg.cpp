@@ -30,7 +30,7 @@ void EditResourceFileDlg::onCommand(int control, int notification)
 void EditResourceFileDlg::browse()
 {
     const FilePicker picker{
-        // The pattern of the pictures has endings that its label does not name: kept as is.
+        // Kept as is: the pattern of the pictures has endings that its label does not name.
         .filters = {{L"Image files (*.bmp, *.png, *.gif, *.jpeg, *.tiff, *.svg)",
                      L"*.bmp;*.png;*.gif;*.jpg;*.jpeg;*.tif;*.tiff;*.svg"},
                     {L"Text files (*.txt)", L"*.txt"},

@@ -72,8 +72,8 @@ HRESULT TemplatePropertyItem::rename(Console& console)
         return S_OK;
     }
     console.refreshResultList(*lister());
-    // The dialog has no check box for it, so the preference is read here and never written. It counts even when the
-    // name stayed what it was: kept as is.
+    // The dialog has no check box for it, so the preference is read here and never written. Kept as is: the service
+    // is restarted even when the template's name stayed what it was.
     if (readRestartPreference())
     {
         RestartServerService();

@@ -81,8 +81,8 @@ TemplateResourcesCollection::Rows TemplateResourcesCollection::readRows()
         [&]
         {
             Tessaro::ServerTemplates templates;
-            // The ids are positions, so that this node shows its neighbour once an application or a folder before it
-            // was removed: kept as is.
+            // Kept as is: the ids are positions, so that a folder's node shows its neighbour once an application or a
+            // folder before it was removed.
             Tessaro::ServerApplication& application = templates.getAt(m_application.getId());
             m_folder = application.getResourceFolderAt(m_folder.getId());
             m_application = application;

@@ -39,8 +39,8 @@ TemplateUserCollection::Rows TemplateUserCollection::readRows()
         [&]
         {
             Tessaro::ServerTemplates templates;
-            // The id is a position, so that this node shows its neighbour's users once an application before its own
-            // was removed: kept as is.
+            // Kept as is: the id is a position, so that this node shows its neighbour's users once an application
+            // before its own was removed.
             m_application = templates.getAt(m_application.getId());
             rows = rowsOf(Tessaro::UserCollection());
         });

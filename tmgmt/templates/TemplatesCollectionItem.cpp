@@ -96,8 +96,8 @@ HRESULT TemplatesCollectionItem::OnRefresh(Console& console)
 
 void TemplatesCollectionItem::readApplication()
 {
-    // The id is a position, so that this node shows its neighbour once an application before it was removed: kept as
-    // is.
+    // Kept as is: an application's id is its position, so that its node shows its neighbour once one before it was
+    // removed.
     m_application = ServerTemplates().getAt(m_application.getId());
 }
 

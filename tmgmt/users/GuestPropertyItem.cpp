@@ -14,7 +14,7 @@ HRESULT GuestPropertyItem::edit(Console& console)
     {
         return S_OK;
     }
-    // The row shows what was chosen from now on, even when it cannot be stored: kept as is.
+    // Kept as is: the row of the guest shows what was chosen even when it cannot be stored.
     setAccount(name, dialog.guestEnabled);
     if (!accepted([&] { Tessaro::UserCollection().setGuestEnabled(isEnabled()); }))
     {

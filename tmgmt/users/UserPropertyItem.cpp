@@ -43,7 +43,7 @@ HRESULT UserPropertyItem::edit(Console& console)
     {
         return S_OK;
     }
-    // The row shows what was entered from now on, even when it cannot be stored: kept as is.
+    // Kept as is: the row of a user shows what was entered even when it cannot be stored.
     m_user = dialog.user;
     setAccount(m_user.getUsername(), m_user.isEnabled());
     if (!accepted([&] { Tessaro::UserCollection().updateUser(m_user); }))

@@ -84,6 +84,7 @@ TEST_F(CertificateList, isReadAnewWheneverItIsShown)
     EXPECT_THAT(names(), ElementsAre(L"one.example"));
 }
 
+// Proves: CertificateCollectionItem on the console's refresh.
 TEST_F(CertificateList, isReadAnewByTheConsolesRefresh)
 {
     BareSnapIn snapIn;

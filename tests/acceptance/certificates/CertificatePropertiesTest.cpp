@@ -38,6 +38,7 @@ TEST_F(CertificateProperties, areShownByTheCommand)
     view().runCommand(L"02", properties);
 }
 
+// Proves: CertificateItem on a double-click.
 TEST_F(CertificateProperties, areShownByADoubleClick)
 {
     installCertificates({L"one.example", L"two.example"});

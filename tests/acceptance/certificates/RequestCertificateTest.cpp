@@ -184,6 +184,7 @@ TEST_F(RequestCertificate, thatTheLibraryRefusesLeavesTheWizardOpen)
 }
 
 // The system's dialog for a file to open, though one is written.
+// Proves: the file of a request is chosen as one to open, though it is written.
 TEST_F(RequestCertificate, browsesForTextFiles)
 {
     ServerFiles::write(document(L"old.txt"), "old");

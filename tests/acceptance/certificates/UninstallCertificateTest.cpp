@@ -38,6 +38,7 @@ TEST_F(UninstallCertificate, asksNothingAndTakesTheCertificateAway)
     EXPECT_THAT(names(), ElementsAre(L"one.example", L"three.example"));
 }
 
+// Proves: CertificateItem on Delete.
 TEST_F(UninstallCertificate, isWhatTheConsolesDeleteDoes)
 {
     openNode();

@@ -16,6 +16,7 @@ class FontsDelete : public FontsTest
     }
 };
 
+// Proves: PrivateFontPropertyItem on Delete.
 TEST_F(FontsDelete, takesTheEntryOutWithoutAsking)
 {
     store({{L"MapFont:A-BOLD", L"1"}, {L"MapFont:B-ITALIC", L"2"}, {L"MapFont:C-BOLD-ITALIC", L"3"}});

@@ -20,6 +20,7 @@ class FontsEdit : public FontsTest
     }
 };
 
+// Proves: PrivateFontPropertyItem on a double-click.
 TEST_F(FontsEdit, opensWithTheRowAndThePreference)
 {
     store({{L"MapFont:ARIAL-ITALIC", L"C:\\a.ttf"}, {L"MapFont:B-BOLD", L"b"}});
@@ -121,7 +122,7 @@ class FontsForeignKey : public FontsEdit, public testing::WithParamInterface<For
 {
 };
 
-// The old entry is looked for by a key rebuilt from the row: kept as is.
+// Proves: an entry whose key another program wrote differently is not found and stays beside the new one.
 TEST_P(FontsForeignKey, staysBesideTheNewEntryOfAnEdit)
 {
     store({{GetParam().key, L"old"}});
@@ -267,7 +268,7 @@ class FontsEditCalls : public FontsEdit
 {
 };
 
-// The node's own number where a handle belongs: kept as is.
+// Proves: the node's own number stands where a handle of the console's belongs, so that nothing is selected.
 TEST_F(FontsEditCalls, passTheNodeItselfAsAHandleAndIgnoreTheAnswer)
 {
     store({{L"MapFont:A", L"a"}, {L"MapFont:B", L"b"}});
@@ -306,6 +307,7 @@ TEST_F(FontsEditCalls, areAnsweredWithAFailureByTheConsoleWhichStaysAsItIs)
 }
 
 // A change to a row reaches the row itself: only its texts are asked for again.
+// Proves: PrivateFontPropertyItem on a change that another view reports.
 TEST_F(FontsEditCalls, drawARowAgainWhoseChangeIsTold)
 {
     store({{L"MapFont:A", L"a"}});

@@ -28,6 +28,7 @@ class DeletingLogs : public LogsTest
     }
 };
 
+// Proves: LogListPropertyItem on Delete.
 TEST_F(DeletingLogs, deletesTheFileAndItsRowWithoutAQuestion)
 {
     write(L"a.log");

@@ -31,6 +31,7 @@ class Expanding : public ConsoleTest
     }
 };
 
+// Proves: "About KV Tessaro" comes before the branches that work is done in.
 TEST_F(Expanding, theRootInsertsItsSevenChildrenInOrder)
 {
     BareSnapIn snapIn;
@@ -71,6 +72,7 @@ TEST_F(Expanding, collapsingWhatWasNeverExpandedTouchesNothing)
     EXPECT_TRUE(snapIn.console.nameSpace.inserted.empty());
 }
 
+// Proves: "Engine Settings" declares two children and inserts three.
 TEST_F(Expanding, engineSettingsDeclaresTwoChildrenAndInsertsThree)
 {
     BareSnapIn snapIn;

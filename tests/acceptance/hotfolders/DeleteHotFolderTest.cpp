@@ -19,6 +19,7 @@ class DeleteHotFolder : public HotFoldersTest
     }
 };
 
+// Proves: HotFolderItem on Delete.
 TEST_F(DeleteHotFolder, asksNothingAndListsTheRest)
 {
     openNode();

@@ -33,6 +33,7 @@ class EditHotFolder : public HotFoldersTest
     static std::wstring storedPattern() { return stored().at(0).getFileMatchPattern().str(); }
 };
 
+// Proves: HotFolderItem on a double-click.
 TEST_F(EditHotFolder, showsAndStoresEveryField)
 {
     openNode();
@@ -147,6 +148,7 @@ TEST_F(EditHotFolder, withTheBoxTickedStoresThatAndRestartsTheService)
     EXPECT_EQ(static_cast<DWORD>(SERVICE_RUNNING), Service::state());
 }
 
+// Proves: the row of a hot folder shows what was entered even when it cannot be stored.
 TEST_F(EditHotFolder, thatTheLibraryRefusesStaysInTheRowAndRestartsNothing)
 {
     HotFolders::HotFolder other = hotFolder(L"Invoices");
@@ -167,6 +169,7 @@ TEST_F(EditHotFolder, thatTheLibraryRefusesStaysInTheRowAndRestartsNothing)
     EXPECT_EQ(L"*.*", view().rows().at(0).at(2)) << "until the list is read anew";
 }
 
+// Proves: HotFolderItem on a change that another view reports.
 TEST_F(EditHotFolder, tellsEveryView)
 {
     openNode(2);

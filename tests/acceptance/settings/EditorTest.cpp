@@ -42,6 +42,7 @@ class SettingEditor : public SettingsTest, public testing::WithParamInterface<Se
     }
 };
 
+// Proves: PropertyItem on a double-click.
 TEST_P(SettingEditor, opensWithNameDescriptionAndTheRestartCheckedOnAFreshMachine)
 {
     openAt(setting().node);

@@ -132,6 +132,7 @@ class EverySetting : public SettingsRows, public testing::WithParamInterface<Set
 {
 };
 
+// Proves: it speaks of two log levels, and four are offered.
 TEST_P(EverySetting, showsItsStoredValue)
 {
     const Setting& setting = GetParam();

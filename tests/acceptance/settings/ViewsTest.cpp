@@ -16,6 +16,7 @@ class SettingsInTwoViews : public SettingsTest
     }
 };
 
+// Proves: PropertyItem on a change that another view reports.
 TEST_F(SettingsInTwoViews, bothDrawTheEditedRowAgain)
 {
     openAt(listener, 2);

@@ -155,7 +155,8 @@ TEST_F(AccessList, reportsANameWithoutAnAccountOnceForEachTimeThatItIsReadAndLis
     EXPECT_THAT(storedUsers(L"Invoices"), ElementsAre(L"Guest", L"adam", L"max", L"zoe")) << "the list is not changed";
 }
 
-// Ids are positions: kept as is.
+// Proves: the id is a position, so that this node shows its neighbour's users once an application before its own was
+// removed.
 TEST_F(AccessList, showsTheNextApplicationsUsersOnceAnEarlierOneWasRemovedElsewhere)
 {
     addUser(L"adam");

@@ -101,6 +101,7 @@ TEST_F(ApplicationView, isReadAnewForEveryViewThatShowsIt)
 }
 
 // The number of an application is its position in the list.
+// Proves: an application's id is its position, so that its node shows its neighbour once one before it was removed.
 TEST_F(ApplicationView, showsTheNeighbourOnceAnEarlierApplicationIsGone)
 {
     addApplications({L"Bills", L"Orders"});

@@ -25,6 +25,7 @@ class DeleteApplication : public TemplatesTest
     }
 };
 
+// Proves: TemplatesCollectionItem on Delete.
 TEST_F(DeleteApplication, asksNothingAndSelectsTheBranch)
 {
     addFolder(L"Letters", L"Images");

@@ -27,6 +27,7 @@ class DeleteTemplate : public TemplatesTest
     }
 };
 
+// Proves: TemplatePropertyItem on Delete.
 TEST_F(DeleteTemplate, asksNothingAndSelectsTheApplication)
 {
     openAt(letters);

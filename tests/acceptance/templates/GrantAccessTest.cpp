@@ -197,6 +197,7 @@ TEST_F(GrantAccess, isRefusedWhereTheAccountsCannotBeRead)
     EXPECT_THAT(stored(), ElementsAre(L"Guest"));
 }
 
+// Proves: TemplateUserItem on Delete.
 TEST_F(WithdrawAccess, asksNothingAndListsTheRest)
 {
     grant(L"Invoices", L"adam");

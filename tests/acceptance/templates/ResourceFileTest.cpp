@@ -173,6 +173,7 @@ TEST_F(EditResourceFile, renamesItInTheListAndOnTheDisk)
     EXPECT_FALSE(std::filesystem::exists(onDisk(L"b.png")));
 }
 
+// Proves: TemplateResourcesItem on a double-click.
 TEST_F(EditResourceFile, isDoneByADoubleClickToo)
 {
     openAt(images());
@@ -270,6 +271,7 @@ TEST_F(EditResourceFile, isSeenInEveryView)
     EXPECT_THAT(names(1), ElementsAre(L"a.png", L"new.png", L"c.png"));
 }
 
+// Proves: TemplateResourcesItem on Delete.
 TEST_F(DeleteResourceFile, asksNothingAndListsTheRest)
 {
     openAt(images());

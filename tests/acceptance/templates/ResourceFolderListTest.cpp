@@ -143,7 +143,8 @@ TEST_F(ResourceFolderList, takesTheNameThatTheFolderWasGivenElsewhere)
     EXPECT_THAT(names(), ElementsAre(L"Images.txt"));
 }
 
-// Ids are positions: kept as is.
+// Proves: the ids are positions, so that a folder's node shows its neighbour once an application or a folder before
+// it was removed.
 TEST_F(ResourceFolderList, showsTheNextFolderOnceAnEarlierOneWasRemovedElsewhere)
 {
     addFolders({L"Images", L"Texts", L"More"});
@@ -156,7 +157,8 @@ TEST_F(ResourceFolderList, showsTheNextFolderOnceAnEarlierOneWasRemovedElsewhere
     EXPECT_EQ(nodeOf(L"Invoices\\More"), view().selected()) << "what the node stands for is what it is called";
 }
 
-// Ids are positions: kept as is.
+// Proves: the ids are positions, so that a folder's node shows its neighbour once an application or a folder before
+// it was removed.
 TEST_F(ResourceFolderList, showsTheNextApplicationsFolderOnceAnEarlierOneWasRemovedElsewhere)
 {
     addApplications({L"Letters", L"Orders"});

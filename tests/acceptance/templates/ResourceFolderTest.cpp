@@ -229,6 +229,7 @@ TEST_F(ResourceFolder, isNotRenamedWhileTheDatabaseIsInUse)
     EXPECT_THAT(view().children(nodeOf(L"Invoices")), ElementsAre(L"Users", L"Images", L"Texts", L"More"));
 }
 
+// Proves: TemplateResourcesCollection on Delete.
 TEST_F(ResourceFolder, isDeletedWithItsFilesAndWithoutAQuestion)
 {
     open();

@@ -20,6 +20,7 @@ class DeleteUser : public UsersTest
     }
 };
 
+// Proves: UserPropertyItem on Delete.
 TEST_F(DeleteUser, asksNothingAndListsTheRest)
 {
     openNode();

@@ -19,6 +19,7 @@ class EditUser : public UsersTest
     }
 };
 
+// Proves: UserPropertyItem on a double-click.
 TEST_F(EditUser, storesWhatWasEnteredAndShowsIt)
 {
     const Tessaro::User before = storedUser(L"alice");
@@ -94,7 +95,8 @@ TEST_F(EditUser, putsTheNewNameIntoTheAccessListsOfAllApplications)
     EXPECT_THAT(storedUsers(L"Orders"), ElementsAre(L"zoe.z", L"Alice"));
 }
 
-// Kept as is.
+// Proves: in a list that has the old name twice only the first is replaced, and a list is written back even when both
+// names are the same.
 TEST_F(EditUser, putsTheNewNameInThePlaceOfTheFirstEntryOnly)
 {
     setAccess(L"Invoices", {L"alice", L"bob1", L"alice"});
@@ -114,7 +116,7 @@ TEST_F(EditUser, leavesTheAccessListsAsTheyAreWhereTheNameStays)
     EXPECT_THAT(storedUsers(L"Invoices"), ElementsAre(L"bob1", L"alice", L"alice"));
 }
 
-// Kept as is: names that cannot be added.
+// Proves: another case of a name, and "guest", may be chosen for an account that is there.
 TEST_F(EditUser, acceptsTheNameOfTheGuestAndAnothersInOtherCase)
 {
     openNode();
@@ -125,6 +127,7 @@ TEST_F(EditUser, acceptsTheNameOfTheGuestAndAnothersInOtherCase)
     EXPECT_THAT(names(), ElementsAre(L"Guest", L"guest", L"GUEST"));
 }
 
+// Proves: UserPropertyItem on a change that another view reports.
 TEST_F(EditUser, tellsEveryViewAndGoesToTheNode)
 {
     openNode(2);

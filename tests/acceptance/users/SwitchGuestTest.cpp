@@ -13,6 +13,7 @@ class SwitchGuest : public UsersTest
 {
 };
 
+// Proves: GuestPropertyItem on a double-click.
 TEST_F(SwitchGuest, storesTheSwitchAndShowsIt)
 {
     openNode();
@@ -49,6 +50,7 @@ TEST_F(SwitchGuest, cancelledChangesNothing)
     EXPECT_THAT(view().row(L"Guest"), ElementsAre(L"Guest", L"No"));
 }
 
+// Proves: GuestPropertyItem on a change that another view reports.
 TEST_F(SwitchGuest, tellsEveryViewAndGoesToTheNode)
 {
     openNode(2);

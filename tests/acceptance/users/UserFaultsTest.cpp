@@ -67,6 +67,7 @@ class UserFaults : public UsersTest
     }
 };
 
+// Proves: the caption is spelled "Error Occured".
 TEST_F(UserFaults, aLockedDatabaseIsReportedAndListedAsEmpty)
 {
     open();
@@ -112,6 +113,7 @@ TEST_F(UserFaults, anAdditionThatIsRefusedIsReportedAndListsNothingNew)
     EXPECT_THAT(storedNames(), ElementsAre(L"alice"));
 }
 
+// Proves: the row of a user shows what was entered even when it cannot be stored.
 TEST_F(UserFaults, anEditThatIsRefusedStaysInTheRowUntilTheListIsReadAnew)
 {
     openNode();
@@ -149,6 +151,7 @@ TEST_F(UserFaults, anEditWhoseAccessListsCannotBeWrittenKeepsTheDialogOpenAndThe
     EXPECT_THAT(names(), ElementsAre(L"Guest", L"alice"));
 }
 
+// Proves: the row of the guest shows what was chosen even when it cannot be stored.
 TEST_F(UserFaults, aSwitchOfTheGuestThatIsRefusedStaysInTheRowUntilTheListIsReadAnew)
 {
     openNode();

@@ -98,6 +98,7 @@ TEST_F(UserList, hasAKindForTheGuestAndOneForUsersAndPicturesOfWhoIsEnabled)
 }
 
 // The console offers no refresh there, but may send it.
+// Proves: UsersCollectionItem on the console's refresh.
 TEST_F(UserList, isReadAnewByARefresh)
 {
     BareSnapIn snapIn;

@@ -23,6 +23,7 @@ class SelectCertificateFileTest : public DialogTestBase
 {
 };
 
+// Proves: nothing opens the dialog "Select Certificate File".
 TEST_F(SelectCertificateFileTest, isThereThoughNothingOpensIt)
 {
     SelectCertificateFile dialog;

@@ -1,11 +1,8 @@
-#include "DialogTestBase.h"
+#include "certificates/WizardPagesTest.h"
 #include "dialogContents.h"
 
 #include "kit/ImportSpy.h"
-#include "kit/ServerFiles.h"
-#include "kit/WizardWindow.h"
 #include "kit/windows.h"
-#include "tmgmt/certificates/WizImportCertificate.h"
 
 #include <prsht.h>
 
@@ -15,70 +12,12 @@ namespace
 using Acceptance::ImportSpy;
 using Acceptance::ModalWindow;
 using Acceptance::WizardWindow;
-using TMgmt::WizImportCertificate;
 using Contents = std::vector<std::wstring>;
 using Ids = std::vector<int>;
 
-constexpr int selfSigned = 309;
-constexpr int issuedByAuthority = 310;
-constexpr int prepareRequest = 295;
-constexpr int processAnswer = 296;
-constexpr int country = 303;
-constexpr int file = 299;
-constexpr int browse = 298;
-
-// The pages of the certificate wizard as they look, each in its place.
-class WizardPagesTest : public DialogTestBase
-{
-  protected:
-    using Look = std::function<void(WizardWindow&, ModalWindow&)>;
-
-    void SetUp() override { Acceptance::ServerFiles::reset(); }
-
-    // Opens the wizard, walks to a page, looks at it and cancels. The wizard's caption is the page's.
-    void lookAt(const std::wstring& caption, const std::function<void(WizardWindow&)>& walk, const Look& look)
-    {
-        WizImportCertificate wizard;
-        robot().dialog(L"Select Certificate Type",
-                       [&](ModalWindow& window)
-                       {
-                           WizardWindow sheet(window);
-                           walk(sheet);
-                           EXPECT_EQ(window.caption(), caption);
-                           ModalWindow page = sheet.page();
-                           look(sheet, page);
-                           sheet.press(IDCANCEL);
-                       });
-        EXPECT_FALSE(wizard.show(frame()));
-    }
-
-    static void stay(WizardWindow&) {}
-
-    static void toRequestOperation(WizardWindow& sheet)
-    {
-        sheet.page().setChecked(issuedByAuthority, true);
-        sheet.click(WizardWindow::next);
-    }
-
-    static void toRequestFile(WizardWindow& sheet)
-    {
-        toRequestOperation(sheet);
-        sheet.click(WizardWindow::next);
-        for (int field = 300; field <= 308; ++field)
-        {
-            sheet.page().type(field, L"AA");
-        }
-        sheet.click(WizardWindow::next);
-    }
-
-    static void toCertificateFile(WizardWindow& sheet)
-    {
-        toRequestOperation(sheet);
-        sheet.page().setChecked(processAnswer, true);
-        sheet.click(WizardWindow::next);
-    }
-};
-
+// Proves: under the header "Certificate File Name" the page speaks of a private key, and its subtitle begins with
+// "Your can".
+// Proves: the subtitle ends in "distinguishes it from organizations".
 TEST_F(WizardPagesTest, areFiveInTheirOrderWithTitlesAndSubtitles)
 {
     struct Page
@@ -162,49 +101,47 @@ constexpr wchar_t subjectCaption[] = L"Generate Certificate";
 
 TEST_F(WizardPagesTest, askWhomTheCertificateIsFor)
 {
-    lookAt(
-        subjectCaption, [](WizardWindow& sheet) { sheet.click(WizardWindow::next); },
-        [](WizardWindow& sheet, ModalWindow& page)
-        {
-            EXPECT_EQ(Acceptance::contentsOf(page.handle()),
-                      (Contents{L"-1 Static Enter this information carefully because otherwise the Certification "
-                                L"Authority may reject your request. Enter full names, not abbreviations.",
-                                L"-1 Static Organization &Name:",
-                                L"300 Edit ",
-                                L"-1 Static Organizational &Unit:",
-                                L"301 Edit ",
-                                L"-1 Static &Domain Name:",
-                                L"302 Edit ",
-                                L"-1 Static &Country Code:",
-                                L"303 Edit ",
-                                L"-1 Static (US=United States, FR=France, etc.)",
-                                L"-1 Static &Address:",
-                                L"306 Edit ",
-                                L"-1 Static &State/Province:",
-                                L"305 Edit ",
-                                L"-1 Static City/&Locality:",
-                                L"304 Edit ",
-                                L"-1 Static &Zip Code:",
-                                L"307 Edit ",
-                                L"-1 Static &Email Address:",
-                                L"308 Edit ",
-                                L"-1 Static All fields are required."}));
-            EXPECT_EQ(Acceptance::tabOrderOf(page.handle()), (Ids{300, 301, 302, country, 306, 305, 304, 307, 308}));
-            EXPECT_EQ(sheet.buttons(), (Ids{WizardWindow::back, WizardWindow::finish, IDCANCEL}));
-        });
+    lookAt(subjectCaption, toSubject,
+           [](WizardWindow& sheet, ModalWindow& page)
+           {
+               EXPECT_EQ(Acceptance::contentsOf(page.handle()),
+                         (Contents{L"-1 Static Enter this information carefully because otherwise the Certification "
+                                   L"Authority may reject your request. Enter full names, not abbreviations.",
+                                   L"-1 Static Organization &Name:",
+                                   L"300 Edit ",
+                                   L"-1 Static Organizational &Unit:",
+                                   L"301 Edit ",
+                                   L"-1 Static &Domain Name:",
+                                   L"302 Edit ",
+                                   L"-1 Static &Country Code:",
+                                   L"303 Edit ",
+                                   L"-1 Static (US=United States, FR=France, etc.)",
+                                   L"-1 Static &Address:",
+                                   L"306 Edit ",
+                                   L"-1 Static &State/Province:",
+                                   L"305 Edit ",
+                                   L"-1 Static City/&Locality:",
+                                   L"304 Edit ",
+                                   L"-1 Static &Zip Code:",
+                                   L"307 Edit ",
+                                   L"-1 Static &Email Address:",
+                                   L"308 Edit ",
+                                   L"-1 Static All fields are required."}));
+               EXPECT_EQ(Acceptance::tabOrderOf(page.handle()), (Ids{300, 301, 302, country, 306, 305, 304, 307, 308}));
+               EXPECT_EQ(sheet.buttons(), (Ids{WizardWindow::back, WizardWindow::finish, IDCANCEL}));
+           });
 }
 
 TEST_F(WizardPagesTest, takeTwoCapitalLettersForTheCountry)
 {
-    lookAt(
-        subjectCaption, [](WizardWindow& sheet) { sheet.click(WizardWindow::next); },
-        [](WizardWindow&, ModalWindow& page)
-        {
-            page.type(country, L"deu");
-            EXPECT_EQ(page.text(country), L"DE");
-            page.type(300, L"deu");
-            EXPECT_EQ(page.text(300), L"deu") << "the other fields are left as they are";
-        });
+    lookAt(subjectCaption, toSubject,
+           [](WizardWindow&, ModalWindow& page)
+           {
+               page.type(country, L"deu");
+               EXPECT_EQ(page.text(country), L"DE");
+               page.type(300, L"deu");
+               EXPECT_EQ(page.text(300), L"deu") << "the other fields are left as they are";
+           });
 }
 
 TEST_F(WizardPagesTest, offerNextInPlaceOfFinishWhereTheAuthorityIsAsked)

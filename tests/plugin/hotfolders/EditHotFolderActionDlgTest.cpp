@@ -239,6 +239,7 @@ TEST_F(EditHotFolderActionDlgTest, changesNothingOnCancel)
     EXPECT_EQ(stored, before);
 }
 
+// Proves: the title is the one under which an input folder is chosen.
 TEST_F(EditHotFolderActionDlgTest, writesAChosenFolderIntoItsFieldAndLeavesTheKindAlone)
 {
     const std::wstring path = makeFolder(L"chosen");

@@ -282,7 +282,7 @@ TEST_F(EditHotFolderDlgBrowseTest, takesTheBaseUrlOfTheSettings)
     }
 }
 
-// Kept as is: OK takes the base URL from the field of the stylesheet.
+// Proves: the base URL comes from the field of the stylesheet, whatever was entered under "Settings".
 TEST_F(EditHotFolderDlgBrowseTest, losesTheBaseUrlOfTheSettingsOnOk)
 {
     HotFolder folder = validFolder();

@@ -88,7 +88,7 @@ TEST_F(EditHotFolderDlgOkTest, storesPdfForAStoredFormatThatIsNotOffered)
     EXPECT_EQ(stored.getOutputFormat(), OutputFormat::Pdf);
 }
 
-// Kept as is: the page of a JPEG or GIF can be edited and is lost.
+// Proves: the page index of a JPEG or GIF can be edited and is stored as 0.
 TEST_F(EditHotFolderDlgOkTest, storesPageIndex0ForJpegAndGifThoughItsFieldIsEnabled)
 {
     for (const OutputFormat picture : {OutputFormat::Jpeg, OutputFormat::Gif})
@@ -142,7 +142,7 @@ TEST_F(EditHotFolderDlgOkTest, storesTheBaseUrlAsTheStylesheetWhenNoneIsApplied)
     EXPECT_FALSE(stored.applyFolderXslTemplate());
 }
 
-// Kept as is: an applied stylesheet becomes the base URL.
+// Proves: the base URL comes from the field of the stylesheet, whatever was entered under "Settings".
 TEST_F(EditHotFolderDlgOkTest, storesTheStylesheetAsTheBaseUrl)
 {
     const std::wstring style = makeStylesheet(L"style.xsl");

@@ -149,6 +149,7 @@ TEST_F(EditHotFolderDlgTest, showsTheStylesheetWhenItIsApplied)
            });
 }
 
+// Proves: without a stylesheet its field shows the base URL.
 TEST_F(EditHotFolderDlgTest, showsTheBaseUrlDisabledInThePlaceOfAStylesheetThatIsNotApplied)
 {
     HotFolder folder;
@@ -196,6 +197,7 @@ TEST_F(EditHotFolderDlgTest, enablesThePageIndexOnOpeningForThePictureFormats)
     }
 }
 
+// Proves: of the entries of the list only PNG and SVG have a page index.
 TEST_F(EditHotFolderDlgTest, enablesThePageIndexOnChoosingForPngAndSvgOnly)
 {
     lookAt(folderWithFormat(12),

@@ -115,6 +115,7 @@ TEST_F(EditResourceFileDlgTest, refusesWhatIsNotFound)
     }
 }
 
+// Proves: the pattern of the pictures has endings that its label does not name.
 TEST_F(EditResourceFileDlgTest, browsesForPicturesTextsOrAnyFile)
 {
     const std::wstring file = makeFile(L"logo.png");

@@ -206,7 +206,8 @@ TEST_F(EditUserDlgTest, putsTheNewNameIntoEveryAccessListThatHasTheOldOne)
     EXPECT_EQ(usersOf(2), (Names{L"Alice", L"zoe.z"}));
 }
 
-// Kept as is.
+// Proves: in a list that has the old name twice only the first is replaced, and a list is written back even when both
+// names are the same.
 TEST_F(EditUserDlgTest, putsTheNewNameInThePlaceOfTheFirstEntryOnly)
 {
     addApplication(L"Bills", {L"bob1", L"alice", L"Guest", L"alice"});

@@ -39,6 +39,8 @@ TEST(FontKey, IsTheFamilyInUpperCaseWithTheStyleBehindIt)
     }
 }
 
+// Proves: a family with a "-" comes out cut there and what follows counts for its style only, and any other key is
+// shown like a mapping.
 TEST(ReadFont, ShowsEveryKeyThatIsNoAlias)
 {
     const struct

@@ -69,6 +69,7 @@ TEST(PageIndex, isOfferedForTheStoredPictureFormats)
 }
 
 // JPEG and GIF, the entries 9 and 10, have one when they are opened and none when they are chosen.
+// Proves: of the entries of the list only PNG and SVG have a page index.
 TEST(PageIndex, isOfferedForTheChosenEntriesPngAndSvgOnly)
 {
     for (int index = -1; index <= 16; ++index)

@@ -36,6 +36,7 @@ TEST(ShowProperty, showsAPercentageAsTheShortestFormOfItsNumber)
     EXPECT_EQ(showProperty(PropertyKind::percentage, L"1", L"80.0", {}).defaultValue, L"80 %");
 }
 
+// Proves: the value of an enumeration is shown by the label of its option, its default as it is stored.
 TEST(ShowProperty, showsAnEnumerationsValueByItsLabelButItsDefaultAsStored)
 {
     const auto shown = showProperty(PropertyKind::enumeration, L"TTF_EMBEDDED", L"TTF_EMBEDDED", fontMethods);

@@ -39,6 +39,8 @@ TEST(CheckProperty, keepsARealNumberAsTyped)
     }
 }
 
+// Proves: a number or boolean that is refused is an error and the field gets its former text back, a port is a
+// warning and the typed text stays.
 TEST(CheckProperty, refusesWhatBeginsWithNoNumberAndRestoresTheField)
 {
     for (const PropertyKind kind : {PropertyKind::points, PropertyKind::percentage})

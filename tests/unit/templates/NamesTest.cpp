@@ -44,6 +44,7 @@ TEST(PathTaken, isThatOfAFileAndOfAFolder)
     EXPECT_FALSE(isPathTaken(folder.path(L"not there")));
 }
 
+// Proves: every occurrence of the old name is taken out of the path, not only the last one.
 TEST(RenamedPath, losesEveryOccurrenceOfTheOldName)
 {
 #ifdef _WIN32

@@ -85,12 +85,14 @@ TEST(UsernameRule, AsksForFourToThirtyTwoPlainCharactersInThisOrder)
     }
 }
 
+// Proves: adding and editing say the same in different words ("exits", "cannot" and "can not", a blank at the end).
 TEST(UsernameRule, SaysInTwoWaysThatTheNameIsEmpty)
 {
     EXPECT_EQ(L"Username cannot be empty.", text(faultOfNewUsername(L"")));
     EXPECT_EQ(L"Username can not be empty.", text(faultOfEditedUsername(L"")));
 }
 
+// Proves: adding and editing say the same in different words ("exits", "cannot" and "can not", a blank at the end).
 TEST(UsernameRule, SaysInTwoWaysThatTheNameIsTaken)
 {
     EXPECT_EQ(L"Username already exits.", text(newUsernameTaken));
@@ -110,6 +112,7 @@ TEST(UsernameRule, KnowsTheGuestInEveryCase)
 }
 
 // With a stored account for each, since only those have ids of their own.
+// Proves: another case of a name, and "guest", may be chosen for an account that is there.
 TEST(UsernameRule, ComparesAddedNamesWithoutCaseAndEditedOnesToTheLetter)
 {
     const CommonAppData data;
@@ -157,6 +160,7 @@ const PasswordCase passwords[] = {
     {L"p\u00E4ss \U0001F600", L"p\u00E4ss \U0001F600", nullptr, nullptr},
 };
 
+// Proves: adding and editing say the same in different words ("exits", "cannot" and "can not", a blank at the end).
 TEST(PasswordRule, AsksForBothAndTheSame)
 {
     for (const auto& [password, confirmation, newFault, changedFault] : passwords)

@@ -39,7 +39,7 @@ std::optional<PrivateFont> readFont(const Core::String& key, const Core::String&
     PrivateFont font{.family = pieces.front(), .file = value};
     for (auto piece = pieces.begin() + 1; piece != pieces.end(); ++piece)
     {
-        // A piece that says both, as "BOLDITALIC", counts as bold only: kept as is.
+        // Kept as is: a piece that says both, as "BOLDITALIC", counts as bold only.
         if (says(*piece, L"bold"))
         {
             font.isBold = true;

@@ -10,7 +10,7 @@ namespace TMgmt
 class TemplateResourcesItem : public DeletableRow<TemplateResourcesItem>
 {
   public:
-    // TemplateUserItem has the same one: kept as is, since both are registered so.
+    // Kept as is: TemplateResourcesItem and TemplateUserItem have the same node type.
     static constexpr GUID nodeType{0x5fbbcef6, 0x3cac, 0x4472, {0xaa, 0x4d, 0x36, 0xbc, 0xd0, 0xfc, 0x7d, 0xa3}};
     static constexpr UINT menu = IDM_RESOURCE_FILE;
 

@@ -21,8 +21,8 @@ struct PrivateFont
 Core::String fontKey(const PrivateFont& font);
 
 // The mapping that a key and its value are shown as; nothing for a font alias ("MapAlias:…"), which is not shown, and
-// for a key that says nothing but "MapFont:". A family with a "-" comes out cut there and what follows counts for its
-// style only; any key of others is shown like a mapping: kept as is.
+// for a key that says nothing but "MapFont:". Kept as is: a family with a "-" comes out cut there and what follows
+// counts for its style only, and any other key is shown like a mapping.
 std::optional<PrivateFont> readFont(const Core::String& key, const Core::String& value);
 
 inline constexpr wchar_t familyIsEmpty[] = L"Font family can not be empty.";

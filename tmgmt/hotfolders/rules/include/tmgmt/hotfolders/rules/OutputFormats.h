@@ -39,8 +39,9 @@ std::optional<Tessaro::OutputFormat> formatAt(int index) noexcept;
 
 // Whether a page can be chosen for a hot folder that is stored with this format: JPEG, GIF, PNG and SVG.
 bool storedFormatHasPageIndex(Tessaro::OutputFormat format) noexcept;
-// Whether a page can be chosen when this entry of the list is. It asks for the indexes 11 to 14, which are the numbers
-// of the picture formats and not their places: of the list these are PNG and SVG only. Kept as is.
+// Whether a page can be chosen when this entry of the list is. It asks for the indexes 11 to 14, which are the
+// numbers of the picture formats and not their places. Kept as is: of the entries of the list only PNG and SVG have a
+// page index.
 bool listIndexHasPageIndex(int index) noexcept;
 
 // The page index to store for what stands in the dialog: 0 for an entry that has none, JPEG and GIF among them, and

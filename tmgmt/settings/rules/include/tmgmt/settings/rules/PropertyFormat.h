@@ -15,8 +15,9 @@ struct ShownProperty
     std::wstring defaultValue;
 };
 
-// Formats a raw value and its default. For an enumeration the value is shown by its option's label (as it stands when
-// no option has it), the default as it is stored: the asymmetry is kept as is, administrators know the columns so.
+// Formats a raw value and its default. A value that no option has is shown as it stands. Administrators know the
+// columns so. Kept as is: the value of an enumeration is shown by the label of its option, its default as it is
+// stored.
 ShownProperty showProperty(PropertyKind kind, const std::wstring& value, const std::wstring& defaultValue,
                            const PropertyOptions& options);
 

@@ -14,7 +14,8 @@ inline constexpr wchar_t notABoolean[] = L"Please enter either true or false.";
 inline constexpr wchar_t notAPort[] = L"Please enter a valid port number.";
 inline constexpr wchar_t portOutOfRange[] = L"Please enter a port number between 1000 and 65535.";
 
-// What the administrator typed was refused. The two ways of complaining differ on purpose and are kept as they are.
+// What the administrator typed was refused. Kept as is: a number or boolean that is refused is an error and the field
+// gets its former text back, a port is a warning and the typed text stays.
 struct PropertyRefusal
 {
     enum class Style

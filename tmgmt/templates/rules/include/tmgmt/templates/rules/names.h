@@ -38,8 +38,9 @@ const wchar_t* faultOfTemplate(const Core::String& path, const Core::String& nam
 // What is wrong with a file that shall be put into a resource folder under that name; null when nothing is.
 const wchar_t* faultOfResourceFile(const Core::String& path, const Core::String& name);
 
-// Where something goes when it is renamed: every occurrence of its old name is taken out of its path, not only the
-// last one, and the new name is put behind what is left. Kept as is: the library only takes the last component.
+// Where something goes when it is renamed: the new name is put behind what is left of its path. The library only
+// takes the last component. Kept as is: every occurrence of the old name is taken out of the path, not only the last
+// one.
 Core::String renamedPath(const Core::String& path, const Core::String& oldName, const Core::String& newName);
 
 // By what name a program asks the server for a template: "<application>:<template>"; empty for an empty template name.

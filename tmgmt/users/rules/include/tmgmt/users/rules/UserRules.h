@@ -5,9 +5,9 @@
 namespace TMgmt
 {
 
-// The rules of the two dialogs of a user. Each tells what is wrong, null when nothing is. Adding and editing say many
-// things differently ("exits", "cannot" and "can not", a blank at the end) and compare names differently: kept as is,
-// since administrators and their notes know these sentences.
+// The rules of the two dialogs of a user. Each tells what is wrong, null when nothing is. Administrators and their
+// notes know these sentences. Kept as is: adding and editing say the same in different words ("exits", "cannot" and
+// "can not", a blank at the end).
 
 // --- Adding
 
@@ -24,8 +24,8 @@ const wchar_t* faultOfNewPassword(const Core::String& password, const Core::Stri
 
 inline constexpr wchar_t editedUsernameTaken[] = L"Username already exists.";
 
-// Whether an existing account, another than the edited one, has that very name. Another case, and "guest", may be
-// chosen here: kept as is.
+// Whether an existing account, another than the edited one, has that very name. Kept as is: another case of a name,
+// and "guest", may be chosen for an account that is there.
 bool isEditedUsernameTaken(const Core::String& username, const Tessaro::User& edited, const Tessaro::User& existing);
 const wchar_t* faultOfEditedUsername(const Core::String& username) noexcept;
 // Both empty: the password stays.
