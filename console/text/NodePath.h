@@ -1,7 +1,5 @@
 #pragma once
 
-#include "console/host/Host.h"
-
 #include <optional>
 #include <string>
 #include <vector>
@@ -18,9 +16,5 @@ std::optional<NodePath> parseNodePath(const std::wstring& text);
 
 // The way back: parseNodePath(formatNodePath(path)) is the path.
 std::wstring formatNodePath(const NodePath& path);
-
-// Follows the path below a node, expanding every node on the way. Names are compared without regard to case. none when
-// there is no such node; missing is then the path as far as it could not be followed.
-NodeId findNode(const ScopeTree& tree, NodeId top, const NodePath& path, NodePath& missing);
 
 } // namespace Console
