@@ -31,11 +31,11 @@ std::vector<X509Ptr> copiesOf(const std::vector<X509*>& certificates)
 
 } // namespace
 
-KeyStore::KeyStore(Secret password) : m_password(std::move(password)) {}
+KeyStore::KeyStore(Secret password, int rounds) : m_password(std::move(password)), m_rounds(rounds) {}
 
-KeyStore::KeyStore(std::string_view file, Secret password) : m_password(std::move(password))
+KeyStore::KeyStore(std::string_view file, Secret password, KeyDerivationBudget budget) : m_password(std::move(password))
 {
-    Pkcs12Reader reader(file, m_password);
+    Pkcs12Reader reader(file, m_password, budget);
     for (Pkcs12Reader::KeyBag& bag : reader.keys())
     {
         if (!bag.encrypted)
@@ -79,7 +79,7 @@ std::string KeyStore::toFile() const
     {
         writer.addKey(*key.encrypted, key.id);
     }
-    return writer.finish(m_password);
+    return writer.finish(m_password, m_rounds);
 }
 
 const KeyStore::Identity* KeyStore::find(const std::string& fingerprint) const
@@ -108,13 +108,14 @@ bool KeyStore::add(X509& certificate, EVP_PKEY& key, const std::vector<X509*>& i
     }
     std::string id = keyId(key);
     std::erase_if(m_waitingKeys, [&](const StoredKey& waiting) { return waiting.id == id; });
-    m_identities.push_back({copyOf(certificate), {std::move(id), encryptKey(key, m_password)}, copiesOf(issuers)});
+    m_identities.push_back(
+        {copyOf(certificate), {std::move(id), encryptKey(key, m_password, m_rounds)}, copiesOf(issuers)});
     return true;
 }
 
 void KeyStore::addWaitingKey(EVP_PKEY& key)
 {
-    m_waitingKeys.push_back({keyId(key), encryptKey(key, m_password)});
+    m_waitingKeys.push_back({keyId(key), encryptKey(key, m_password, m_rounds)});
 }
 
 bool KeyStore::join(X509& certificate, const std::string& keyId, const std::vector<X509*>& issuers)

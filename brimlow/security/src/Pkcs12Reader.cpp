@@ -47,8 +47,8 @@ std::string localKeyIdOf(const PKCS12_SAFEBAG* bag)
 
 } // namespace
 
-Pkcs12Reader::Pkcs12Reader(std::string_view content, const Secret& password)
-    : m_passwords{password.get()}, m_passwordLength(password.length())
+Pkcs12Reader::Pkcs12Reader(std::string_view content, const Secret& password, KeyDerivationBudget budget)
+    : m_budget(budget), m_passwords{password.get()}, m_passwordLength(password.length())
 {
     loadAlgorithms();
     ERR_clear_error();

@@ -32,7 +32,7 @@ class Pkcs12Reader
     };
 
     // The password is lent, for as long as the reader lives.
-    Pkcs12Reader(std::string_view content, const Secret& password);
+    Pkcs12Reader(std::string_view content, const Secret& password, KeyDerivationBudget budget = KeyDerivationBudget());
 
     std::vector<CertificateBag>& certificates() noexcept { return m_certificates; }
     std::vector<KeyBag>& keys() noexcept { return m_keys; }
