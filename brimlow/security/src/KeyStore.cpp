@@ -6,6 +6,7 @@
 #include "privateKey.h"
 
 #include <algorithm>
+#include <unordered_map>
 #include <utility>
 
 namespace Security
@@ -44,23 +45,30 @@ KeyStore::KeyStore(std::string_view file, Secret password, KeyDerivationBudget b
         }
         m_waitingKeys.push_back({std::move(bag.localKeyId), std::move(bag.encrypted)});
     }
+    // Several certificates of one key have a copy of it each.
+    std::unordered_multimap<std::string, StoredKey*> keys;
+    for (StoredKey& key : m_waitingKeys)
+    {
+        keys.emplace(key.id, &key);
+    }
     for (Pkcs12Reader::CertificateBag& bag : reader.certificates())
     {
         if (!bag.localKeyId.empty())
         {
-            const auto key = findWaiting(bag.localKeyId);
-            if (key == m_waitingKeys.end())
+            const auto key = keys.find(bag.localKeyId);
+            if (key == keys.end())
             {
                 throw Pkcs12Fault::damaged;
             }
-            m_identities.push_back({std::move(bag.certificate), std::move(*key), {}});
-            m_waitingKeys.erase(key);
+            m_identities.push_back({std::move(bag.certificate), std::move(*key->second), {}});
+            keys.erase(key);
         }
         else if (!m_identities.empty())
         {
             m_identities.back().issuers.push_back(std::move(bag.certificate));
         }
     }
+    std::erase_if(m_waitingKeys, [](const StoredKey& key) { return !key.encrypted; });
 }
 
 std::string KeyStore::toFile() const

@@ -36,7 +36,8 @@ class Pkcs12Reader
 
     std::vector<CertificateBag>& certificates() noexcept { return m_certificates; }
     std::vector<KeyBag>& keys() noexcept { return m_keys; }
-    KeyPtr decrypt(const KeyBag& bag) const;
+    // A key costs its rounds here, not when the file is read: a key store has as many keys as it likes.
+    KeyPtr decrypt(const KeyBag& bag);
 
   private:
     void verify(PKCS12& file);
