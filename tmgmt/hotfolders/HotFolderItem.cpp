@@ -62,6 +62,7 @@ HRESULT HotFolderItem::OnSelect(bool, bool isSelected, Console& console)
 
 HRESULT HotFolderItem::OnDelete(Console& console)
 {
+    // Kept as is: a deletion that the library refuses is reported under the product's name.
     HotFolders::HotFolderCollection().removeFolder(m_hotFolder);
     console.refreshResultList(*itemOfCookie(m_parent));
     return S_OK;
