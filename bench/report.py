@@ -8,27 +8,30 @@ import subprocess
 
 from table import LARGEST_GROWTH, LARGEST_LIBRARY, LARGEST_RATIO, LARGEST_ROW, Gap, tables
 
-# What is beyond its aim for a known reason: a pattern of titles, and the reason.
+# What is beyond its aim for a known reason: a pattern of titles, the smallest size that the reason is good for, and the
+# reason.
 REASONS = [
-    ('size of TMgmt.dll', 'SQLite and OpenSSL are in it, so that it needs nothing but what Windows has.'),
-    ('TMgmt.dll into memory', 'the runtimes in it start and end, and the system libraries that only it uses come along; '
-     'the floor only maps it. Once a console.'),
-    ('^Start: load', 'a constant: sixty nodes, their pictures for tree and list, and the files looked for; the floor '
-     'has empty pictures and reads nothing. Once a console.'),
-    ('^Start: with', 'the same constant; and each entry becomes a node (an application four), which the console may '
-     'name at any time.'),
-    (': read every text$', 'the console names a row by a number, which is looked up among the nodes that are alive '
+    ('size of TMgmt.dll', 0, 'SQLite and OpenSSL are in it, so that it needs nothing but what Windows has.'),
+    ('TMgmt.dll into memory', 0, 'the runtimes in it start and end, and the system libraries that only it uses come '
+     'along; the floor only maps it. Once a console.'),
+    ('^Start: load', 0, 'a constant: sixty nodes, their pictures, and the files that are looked for; the floor has '
+     'empty pictures and looks for nothing. Once a console.'),
+    ('^Start: with', 0, 'the same constant; and each entry becomes a node (an application three), which the console '
+     'may name at any time.'),
+    (': read every text$', 0, 'the console names a row by a number, which is looked up among the nodes that are alive '
      'before it is followed: about 0.1 µs a text.'),
-    (': leave$', 'a node is let go for each row, where the floor has texts only: below a microsecond a row.'),
-    (': (show|refresh)', 'a node is made for each row, where the floor has texts only: below a microsecond a row.'),
-    (': (add|edit|rename|grant)', "the editor fills its controls and checks what is entered; the floor's does not."),
+    (': leave$', 10000, 'a node is let go for each row, where the floor has texts only: below a microsecond a row.'),
+    (': (show|refresh)', 10000, 'a node is made for each row, where the floor has texts only: a microsecond a row.'),
+    (': (add|edit|rename|grant) one', 0, "the editor fills its controls and checks what is entered; the floor's does "
+     'not. And the list is made anew, as by show.'),
+    (': (delete|revoke) one', 10000, 'the list is made anew, as by show.'),
 ]
 
 GAPS = [
     Gap('Server Certificates', 10000, 'changes among 10,000 are not measured: each writes the whole key store, in '
         'proportion to its size.'),
     Gap('Server Certificates', 100000, 'a key store of so many is not measured: reading it takes the library and '
-        'OpenSSL about a minute.'),
+        'OpenSSL half a minute, by its growth.'),
 ]
 
 TEXT = '''# How long it takes
@@ -70,14 +73,20 @@ def machine():
             f'{load:.1f}; above 1 the figures are too high, and ratios of short ones not to be relied on.')
 
 
+def reason(figure):
+    return next((reason for pattern, smallest, reason in REASONS
+                 if re.search(pattern, figure.title) and figure.size >= smallest), 'no reason is known.')
+
+
 def faults(figures):
     """What is beyond its aim, with the reason where it is known."""
-    titles = list(dict.fromkeys(figure.title for figure in figures if figure.faults))
-    lines = ['## Beyond its aim', '']
-    for title in titles:
-        reason = next((reason for pattern, reason in REASONS if re.search(pattern, title)), 'No reason is known.')
-        lines.append(f'- {title}: {reason}')
-    return lines + ([] if titles else ['Nothing.'])
+    sizes = {}
+    for figure in figures:
+        if figure.faults:
+            sizes.setdefault((figure.title, reason(figure)), []).append(f'{figure.size:,}' if figure.size else '')
+    lines = [f'- {title}' + (f' ({", ".join(found)})' if all(found) else '') + f': {why}'
+             for (title, why), found in sizes.items()]
+    return ['## Beyond its aim', '', *(lines or ['Nothing.'])]
 
 
 def report(figures, quick):
