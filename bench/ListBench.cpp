@@ -9,12 +9,12 @@ namespace Bench
 {
 
 ListBench::ListBench(std::string name, FloorNode node, const std::vector<std::wstring>& path, std::size_t rows,
-                     std::size_t size, std::size_t repetitions, std::function<void()> restore)
+                     std::size_t size, std::chrono::milliseconds patience, std::function<void()> restore)
     : m_name(std::move(name)),
       m_floor{.name = L"Floor", .children = {std::move(node)}},
       m_rows(rows),
       m_size(size),
-      m_repetitions(repetitions),
+      m_patience(patience),
       m_restore(std::move(restore)),
       m_stage(m_floor),
       m_plugIn(m_stage, m_stage.plugIn(), path),
@@ -31,21 +31,21 @@ void ListBench::show()
 {
     const auto side = [this](List& list)
     { return Side{.act = [&list] { list.show(); }, .before = [this] { m_stage.leave(); }, .after = expect(m_rows)}; };
-    compare(title("show").c_str(), m_size, m_repetitions, side(m_plugIn), side(m_lowest));
+    compare(title("show").c_str(), m_size, m_patience, side(m_plugIn), side(m_lowest));
 }
 
 void ListBench::leave()
 {
     const auto side = [this](List& list)
     { return Side{.act = [this] { m_stage.leave(); }, .before = [&list] { list.show(); }}; };
-    compare(title("leave").c_str(), m_size, m_repetitions, side(m_plugIn), side(m_lowest));
+    compare(title("leave").c_str(), m_size, m_patience, side(m_plugIn), side(m_lowest));
 }
 
 void ListBench::readTexts()
 {
     const auto side = [this](List& list)
     { return Side{.act = [&list] { list.readTexts(); }, .before = [&list] { list.show(); }, .after = expect(m_rows)}; };
-    compare(title("read every text").c_str(), m_size, m_repetitions, side(m_plugIn), side(m_lowest));
+    compare(title("read every text").c_str(), m_size, m_patience, side(m_plugIn), side(m_lowest));
 }
 
 void ListBench::refresh(const char* when, std::function<void()> prepare)
@@ -61,7 +61,7 @@ void ListBench::refresh(const char* when, std::function<void()> prepare)
                     },
                     .after = expect(m_rows)};
     };
-    compare((title("refresh, ") + when).c_str(), m_size, m_repetitions, side(m_plugIn), side(m_lowest));
+    compare((title("refresh, ") + when).c_str(), m_size, m_patience, side(m_plugIn), side(m_lowest));
 }
 
 void ListBench::prepare(List& list, const Change& change)
@@ -71,10 +71,10 @@ void ListBench::prepare(List& list, const Change& change)
     list.show();
     list.select(list.middle());
     m_answer.reset();
-    if (change.entered)
+    if (change.entry)
     {
         m_stage.frame().activate();
-        m_answer.emplace(*change.entered);
+        m_answer.emplace(change.entry->texts);
     }
 }
 
@@ -84,9 +84,9 @@ void ListBench::change(const Change& change)
     node.listsAnew = change.listsAnew;
     node.change = [&change]
     {
-        if (change.entered)
+        if (change.entry)
         {
-            showFloorDialog();
+            showFloorDialog(change.entry->dialog);
         }
         change.least();
     };
@@ -95,7 +95,7 @@ void ListBench::change(const Change& change)
         m_plugIn.expectRows(change.rows);
         m_restore();
     };
-    compare(title(change.what).c_str(), m_size, m_repetitions,
+    compare(title(change.what).c_str(), m_size, m_patience,
             {.act = [&] { change.command(m_plugIn); },
              .before = [&] { prepare(m_plugIn, change); },
              .after = checkAndRestore},

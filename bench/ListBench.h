@@ -3,6 +3,7 @@
 #include "DialogAnswer.h"
 #include "List.h"
 
+#include <chrono>
 #include <functional>
 #include <map>
 #include <optional>
@@ -10,6 +11,15 @@
 
 namespace Bench
 {
+
+// A dialog that a command shows.
+struct Entry
+{
+    // The number of its resource.
+    int dialog;
+    // What is entered, by controls; OK then.
+    std::map<int, std::wstring> texts{};
+};
 
 // A command that changes what a list shows, and the least that has to be done for it.
 struct Change
@@ -22,8 +32,7 @@ struct Change
     std::function<void()> least;
     // How many rows there are afterwards.
     std::size_t rows;
-    // What is entered into the dialog that the command shows, by controls; none when it shows none.
-    std::optional<std::map<int, std::wstring>> entered{};
+    std::optional<Entry> entry{};
     // Whether the least has to list everything anew.
     bool listsAnew = true;
 };
@@ -33,9 +42,9 @@ class ListBench
 {
   public:
     // node: the floor's list. path: the nodes on the way to the plug-in's. rows: how many rows it lists. size: the
-    // number that the table names. restore puts back what a change changed.
+    // number that the table names. patience: how long each comparison goes on. restore puts back what a change changed.
     ListBench(std::string name, FloorNode node, const std::vector<std::wstring>& path, std::size_t rows,
-              std::size_t size, std::size_t repetitions, std::function<void()> restore);
+              std::size_t size, std::chrono::milliseconds patience, std::function<void()> restore);
 
     void show();
     void leave();
@@ -58,7 +67,7 @@ class ListBench
     FloorNode m_floor;
     std::size_t m_rows;
     std::size_t m_size;
-    std::size_t m_repetitions;
+    std::chrono::milliseconds m_patience;
     std::function<void()> m_restore;
     Stage m_stage;
     List m_plugIn;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <functional>
 
@@ -15,10 +16,11 @@ struct Side
     std::function<void()> after{};
 };
 
-// Runs both sides in turn, one time to warm up and then repetitions times on the clock (fewer, but three at least,
-// where they take long), and hands the times to the script that makes the table. size: the number of rows among which
-// it happened; 0 where there are none.
-void compare(const char* what, std::size_t size, std::size_t repetitions, const Side& measured, const Side& floor);
+// Runs both sides in turn, once to warm up and then again and again on the clock until that much time is over, and
+// hands the times to the script that makes the table. What takes some seconds is run once or twice. size: the number of
+// rows among which it happened; 0 where there are none.
+void compare(const char* what, std::size_t size, std::chrono::milliseconds patience, const Side& measured,
+             const Side& floor);
 
 // Hands over a number of bytes, and the floor's.
 void reportBytes(const char* what, std::size_t size, std::size_t measured, std::size_t floor);

@@ -8,6 +8,26 @@ import tempfile
 
 ENTRY = '    <add key="{}" value="{}"/>\r\n'
 
+NAMED = {'name': '?2', 'name_key': 'upper(?2)'}
+
+
+def numbered(name, number):
+    return [f'{name}{index}' for index in range(number)]
+
+
+def copy_first(database, table, changed, values):
+    """Makes the table hold copies of its first row, one for each of the values. ?1 is the number of the copy, from 1 on,
+    and becomes its id where it has one; ?2 is the value. changed says what else differs from the first row."""
+    columns = [row[1] for row in database.execute(f'PRAGMA table_info({table})')]
+    made = {'id': '?1'} | changed
+    database.execute(f'CREATE TEMPORARY TABLE first AS SELECT * FROM {table} LIMIT 1')
+    database.execute(f'DELETE FROM {table}')
+    database.executemany(f'INSERT INTO {table} ({", ".join(columns)}) '
+                         f'SELECT {", ".join(made.get(column, column) for column in columns)} FROM first '
+                         'WHERE ?2 NOTNULL',
+                         enumerate(values, 1))
+    database.execute('DROP TABLE first')
+
 
 class Fixtures:
     def __init__(self, prefix):
@@ -28,17 +48,34 @@ class Fixtures:
         return folder
 
     def make(self, name, number):
-        makers = {'nothing': self.nothing, 'logs': self.logs, 'fonts': self.fonts, 'hot-folders': self.hot_folders,
-                  'applications': self.applications, 'users': self.users, 'keep': self.keep, 'kept': self.kept}
+        makers = {'nothing': self.nothing, 'settings': self.settings, 'logs': self.logs, 'fonts': self.fonts,
+                  'hot-folders': self.hot_folders, 'touched': self.touched, 'applications': self.applications,
+                  'templates': self.templates, 'folders': self.folders, 'files': self.files, 'access': self.access,
+                  'users': self.users, 'keep': self.keep, 'kept': self.kept}
         makers[name](number)
 
-    def nothing(self, _):
+    def nothing(self, _=0):
         """No file of the server's at all."""
-        # Who may use each of the applications: what the first one had in the beginning.
-        self.access = None
         for name in os.listdir(self.maker):
             path = os.path.join(self.maker, name)
             shutil.rmtree(path) if os.path.isdir(path) else os.remove(path)
+
+    def keep(self, _):
+        """Keeps a copy of all files of the server's, which 'kept' puts back."""
+        self.kept_files = os.path.join(self.memory, 'kept')
+        shutil.rmtree(self.kept_files, ignore_errors=True)
+        shutil.copytree(self.maker, self.kept_files)
+
+    def kept(self, _):
+        self.nothing()
+        shutil.copytree(self.kept_files, self.maker, dirs_exist_ok=True)
+
+    def settings(self, _):
+        """The settings and the product's own entries."""
+        self.configuration('TSvc.config', [('ServerAddress', '127.0.0.1'), ('ServerPort', '1099'),
+                                           ('ServerBacklog', '100'), ('LogLevel', 'Normal')])
+        self.configuration(os.path.join('Common', 'Config', 'System.config'),
+                           [('ProductName', 'KV Tessaro 2010'), ('ProductVersion', '1.0'), ('BuildNumber', '1')])
 
     def logs(self, number):
         """A log folder that holds so many logs."""
@@ -57,51 +94,57 @@ class Fixtures:
                              f'C:\\Windows\\Fonts\\family{index:06}.ttf') for index in range(number)])
 
     def hot_folders(self, number):
-        """So many hot folders, copies of the first one that the library put into the database."""
-        for index in range(number):
-            os.makedirs(os.path.join(self.folder, 'hot', str(index)), exist_ok=True)
-        os.makedirs(os.path.join(self.folder, 'out'), exist_ok=True)
+        """So many hot folders. Only the folder of the one that is edited has to exist."""
+        for path in (f'hot/{number // 2}', 'out'):
+            os.makedirs(os.path.join(self.folder, path), exist_ok=True)
         with self.database('HotFolders.db') as database:
-            self.copy_first(database, 'hot_folder',
-                            {'identity': 'randomblob(16)', 'folder': '?2', 'folder_key': 'upper(?2)'},
-                            ((index + 1, f'C:\\bench\\hot\\{index}') for index in range(number)))
+            copy_first(database, 'hot_folder', {'identity': 'randomblob(16)', 'folder': '?2', 'folder_key': 'upper(?2)'},
+                       [f'C:\\bench\\hot\\{index}' for index in range(number)])
+
+    def touched(self, _):
+        """The hot folders as another program leaves them that has changed one."""
+        with self.database('HotFolders.db') as database:
+            database.execute('UPDATE hot_folder SET monitoring = monitoring WHERE id = 1')
 
     def users(self, number):
-        """So many users, copies of the first one."""
+        """So many users."""
         with self.database('Tessaro.db') as database:
-            self.copy_first(database, 'user', {'username': '?2'},
-                            ((index + 1, f'user{index}') for index in range(number)))
+            copy_first(database, 'user', {'username': '?2'}, numbered('user', number))
 
     def applications(self, number):
-        """So many applications, copies of the first one. The one in the middle has files, too."""
+        """So many applications, each with what the first one has."""
         with self.database('Tessaro.db') as database:
-            self.copy_first(database, 'application',
-                            {'identity': 'randomblob(16)', 'name': '?2', 'name_key': 'upper(?2)'},
-                            ((index + 1, f'Application {index}') for index in range(number)))
-            if self.access is None:
-                self.access = database.execute('SELECT position, user FROM access WHERE application = 1').fetchall()
-            database.execute('DELETE FROM access')
-            database.executemany('INSERT INTO access (application, position, user) VALUES (?, ?, ?)',
-                                 ((index + 1, *entry) for index in range(number) for entry in self.access))
-            for table in ('template', 'resource_folder'):
-                database.execute(f'DELETE FROM {table} WHERE application > 1')
-                columns = [row[1] for row in database.execute(f'PRAGMA table_info({table})')]
-                copied = ', '.join(column for column in columns if column not in ('id', 'identity', 'application'))
-                database.executemany(f'INSERT INTO {table} (application, {copied}) '
-                                     f'SELECT ?1, {copied} FROM {table} WHERE application = 1',
-                                     ((index + 1,) for index in range(1, number)))
-        root = os.path.join(self.maker, 'ServerTemplates')
-        middle = os.path.join(root, f'Application {number // 2}')
-        if number > 1:
-            shutil.rmtree(middle, ignore_errors=True)
-            shutil.copytree(os.path.join(root, 'Application 0'), middle)
+            copy_first(database, 'application', NAMED | {'identity': 'randomblob(16)'}, numbered('Application ', number))
+            for table in ('template', 'resource_folder', 'access'):
+                copy_first(database, table, {'application': '?1'}, range(number))
+            copy_first(database, 'resource_file', {'folder': '?1'}, range(number))
 
-    def keep(self, _):
-        """Keeps a copy of the key store, which 'kept' puts back."""
-        shutil.copytree(os.path.join(self.maker, 'KeyStore'), os.path.join(self.memory, 'kept'), dirs_exist_ok=True)
+    def templates(self, number):
+        """So many templates in the one application."""
+        self.entries('template', 'template', number, 'Application 0')
 
-    def kept(self, _):
-        shutil.copytree(os.path.join(self.memory, 'kept'), os.path.join(self.maker, 'KeyStore'), dirs_exist_ok=True)
+    def folders(self, number):
+        """So many resource folders in the one application."""
+        with self.database('Tessaro.db') as database:
+            copy_first(database, 'resource_folder', NAMED | {'identity': 'randomblob(16)'}, numbered('folder', number))
+
+    def files(self, number):
+        """So many files in the one resource folder of the one application."""
+        self.entries('resource_file', 'file', number, os.path.join('Application 0', 'folder0'))
+
+    def entries(self, table, name, number, folder):
+        """So many files of one folder in the database. Those that are changed lie there, too: one in the middle."""
+        with self.database('Tessaro.db') as database:
+            copy_first(database, table, NAMED, numbered(name, number))
+        folder = os.path.join(self.maker, 'ServerTemplates', folder)
+        for index in range(number // 2 - 2, number // 2 + 2):
+            shutil.copy(os.path.join(folder, name + '0'), os.path.join(folder, f'{name}{index}'))
+
+    def access(self, number):
+        """So many users, all of whom may use the one application."""
+        self.users(number)
+        with self.database('Tessaro.db') as database:
+            copy_first(database, 'access', {'position': '?1', 'user': '?2'}, numbered('user', number))
 
     @contextlib.contextmanager
     def database(self, name):
@@ -110,17 +153,6 @@ class Fixtures:
         with database:
             yield database
         database.close()
-
-    @staticmethod
-    def copy_first(database, table, changed, values):
-        """Makes the table hold copies of its first row, one for each of the values. The first of the values (?1) is
-        the id, changed says what else differs."""
-        database.execute(f'DELETE FROM {table} WHERE id > (SELECT min(id) FROM {table})')
-        columns = [row[1] for row in database.execute(f'PRAGMA table_info({table})')]
-        made = {'id': '?1'} | changed
-        database.executemany(
-            f'INSERT OR REPLACE INTO {table} ({", ".join(columns)}) '
-            f'SELECT {", ".join(made.get(column, column) for column in columns)} FROM {table} LIMIT 1', values)
 
     def configuration(self, name, entries):
         path = os.path.join(self.maker, name)

@@ -9,7 +9,6 @@ namespace Bench
 
 void makeHotFolders(std::size_t size)
 {
-    Fixtures::make("nothing", 0);
     // The library makes the database and one hot folder; the script copies it, all in one transaction.
     HotFolders::HotFolder model;
     model.setFolder(L"C:\\bench\\hot");

@@ -12,19 +12,26 @@ namespace
 {
 
 const std::map<std::wstring, Bench::Subject> subjects{
-    {L"loading", Bench::loading},
-    {L"loading-applications", Bench::loadingApplications},
-    {L"loading-hot-folders", Bench::loadingHotFolders},
+    {L"access-list", Bench::accessList},
     {L"applications", Bench::applications},
     {L"certificates", Bench::certificates},
+    {L"everything", Bench::everything},
     {L"hot-folders", Bench::hotFolders},
+    {L"loading", Bench::loading},
+    {L"loading-applications", Bench::loadingApplications},
+    {L"loading-log-files", Bench::loadingLogFiles},
+    {L"loading-private-fonts", Bench::loadingPrivateFonts},
     {L"log-files", Bench::logFiles},
     {L"private-fonts", Bench::privateFonts},
+    {L"resource-files", Bench::resourceFiles},
+    {L"resource-folders", Bench::resourceFolders},
+    {L"settings", Bench::settings},
+    {L"templates", Bench::templates},
     {L"users", Bench::users},
     {L"users-of-applications", Bench::usersOfApplications},
 };
 
-int measure(const std::wstring& name, std::size_t size, std::size_t repetitions)
+int measure(const std::wstring& name, std::size_t size, std::chrono::milliseconds patience)
 {
     const auto subject = subjects.find(name);
     if (subject == subjects.end())
@@ -34,7 +41,7 @@ int measure(const std::wstring& name, std::size_t size, std::size_t repetitions)
     }
     try
     {
-        subject->second(size, repetitions);
+        subject->second(size, patience);
     }
     catch (const std::exception& failure)
     {
@@ -46,7 +53,7 @@ int measure(const std::wstring& name, std::size_t size, std::size_t repetitions)
 
 } // namespace
 
-// Bench.exe SUBJECT SIZE REPETITIONS: measures and writes figures for measure.py, which starts it.
+// Bench.exe SUBJECT SIZE MILLISECONDS: measures and writes figures for measure.py, which starts it.
 extern "C" int wmain(int argumentCount, wchar_t** arguments)
 {
     if (argumentCount != 4)
@@ -55,7 +62,8 @@ extern "C" int wmain(int argumentCount, wchar_t** arguments)
         return 1;
     }
     OleInitialize(nullptr);
-    const int result = measure(arguments[1], std::stoul(arguments[2]), std::stoul(arguments[3]));
+    const int result =
+        measure(arguments[1], std::stoul(arguments[2]), std::chrono::milliseconds(std::stoul(arguments[3])));
     OleUninitialize();
     return result;
 }

@@ -1,36 +1,45 @@
 #!/usr/bin/env python3
 """measure.py FOLDER RESULT [--quick]: runs the Bench.exe in that build folder in the Wine prefix of the environment,
-makes what it asks for, and writes the table to standard output and to the file RESULT."""
+makes what it asks for, and writes the report to standard output and to the file RESULT."""
 
 import os
 import subprocess
 import sys
 
 from fixtures import Fixtures
-from table import Figure, table
+from report import report
+from table import Figure
 
 # Subjects of Bench.exe and their sizes. Each is a process of its own, so that none finds another's memory.
+SIZES = [100, 1000, 10000, 100000]
 SUBJECTS = {
-    'loading': [0, 1000, 10000, 100000],
-    'loading-hot-folders': [100, 1000, 10000],
-    'loading-applications': [100, 1000],
-    'applications': [100, 1000],
-    'users': [100, 1000, 10000],
+    'loading': [0],
+    'loading-log-files': SIZES,
+    'loading-private-fonts': SIZES,
+    'loading-applications': SIZES,
+    'everything': [0],
+    'settings': [0],
+    'private-fonts': SIZES,
+    'log-files': SIZES,
+    'hot-folders': SIZES,
+    'applications': SIZES,
+    'templates': SIZES,
+    'resource-folders': SIZES,
+    'resource-files': SIZES,
+    'access-list': SIZES,
+    'users': SIZES,
     'users-of-applications': [10, 100, 1000],
-    'certificates': [10, 100, 1000],
-    'hot-folders': [100, 1000, 10000],
-    'log-files': [1000, 10000, 100000],
-    'private-fonts': [1000, 10000],
+    'certificates': [100, 1000, 10000],
 }
-REPETITIONS = 7
+MILLISECONDS = 300  # for each comparison
 QUICK_LARGEST = 10000
-QUICK_REPETITIONS = 5
+QUICK_MILLISECONDS = 200
 
 
-def run(bench, subject, size, repetitions, fixtures):
+def run(bench, subject, size, milliseconds, fixtures):
     """The figures that Bench.exe gives for one subject and size."""
     figures = []
-    command = ['wine', bench, subject, str(size), str(repetitions)]
+    command = ['wine', bench, subject, str(size), str(milliseconds)]
     with subprocess.Popen(command, stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True) as process:
         for line in process.stdout:
             kind, *fields = line.rstrip('\r\n').split('\t')
@@ -51,7 +60,7 @@ def run(bench, subject, size, repetitions, fixtures):
 
 def main(folder, result, quick):
     library = os.path.getsize(os.path.join(folder, 'TMgmt.dll'))
-    figures = [Figure('TMgmt.dll: size', 0, 'bytes', [library], [])]
+    figures = [Figure('Start: size of TMgmt.dll', 0, 'bytes', [library], [])]
     fixtures = Fixtures(os.environ['WINEPREFIX'])
     try:
         for subject, sizes in SUBJECTS.items():
@@ -59,13 +68,13 @@ def main(folder, result, quick):
                 if not quick or size <= QUICK_LARGEST:
                     print(f'  {subject} {size or ""}', file=sys.stderr)
                     figures += run(os.path.join(folder, 'Bench.exe'), subject, size,
-                                   QUICK_REPETITIONS if quick else REPETITIONS, fixtures)
+                                   QUICK_MILLISECONDS if quick else MILLISECONDS, fixtures)
     finally:
         fixtures.remove()
-    text = '\n'.join(table(figures))
-    print(text)
+    text = report(figures, quick)
+    print(text, end='')
     with open(result, 'w', encoding='utf-8') as file:
-        file.write(text + '\n')
+        file.write(text)
 
 
 if __name__ == '__main__':

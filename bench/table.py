@@ -1,23 +1,33 @@
-"""The figures of all measurements as one table."""
+"""The figures of all measurements as tables in Markdown, one for each list."""
 
-import statistics
-from dataclasses import dataclass
+import itertools
+import math
+from dataclasses import dataclass, field
 
 LARGEST_RATIO = 1.5
-LARGEST_GROWTH = 1.2
-BYTES_PER_ROW = 1024
+LARGEST_GROWTH = 1.1
+LARGEST_ROW = 1024
 LARGEST_LIBRARY = 6 << 20
 
-HEAD = ('what', 'size', 'measured', 'spread', 'floor', 'ratio', 'per row', 'growth')
+HEAD = ('what', 'size', 'measured', 'floor', 'ratio', 'per row', 'growth', "floor's growth")
 
 
 @dataclass
 class Figure:
-    what: str
+    title: str  # "list: what"
     size: int  # rows; 0 where there are none
     unit: str  # 'ns' or 'bytes'
     measured: list
     floor: list  # empty where there is none
+    former: 'Figure' = field(default=None, repr=False)  # the same at the next smaller size
+
+    @property
+    def group(self):
+        return self.title.partition(': ')[0]
+
+    @property
+    def what(self):
+        return self.title.partition(': ')[2]
 
     @property
     def value(self):
@@ -25,70 +35,90 @@ class Figure:
         return min(self.measured)
 
     @property
+    def lowest(self):
+        return min(self.floor)
+
+    @property
     def ratio(self):
-        return self.value / min(self.floor) if self.floor else None
+        return self.value / self.lowest if self.floor else None
+
+    def exponent(self, value):
+        """How value grows with the size: 0 not at all, 1 as the size does."""
+        if not self.former or not self.floor:
+            return None
+        return math.log(value(self) / value(self.former)) / math.log(self.size / self.former.size)
 
     @property
-    def per_row(self):
-        return self.value / self.size if self.size else None
+    def growth(self):
+        return self.exponent(lambda figure: figure.value)
 
     @property
-    def spread(self):
-        """How far the middle one of the runs lies above the best."""
-        return statistics.median(self.measured) / self.value - 1 if len(self.measured) > 1 else None
+    def lowest_growth(self):
+        return self.exponent(lambda figure: figure.lowest)
+
+    @property
+    def faults(self):
+        """The columns in which it is beyond its aim."""
+        if self.unit == 'bytes':
+            largest = LARGEST_ROW * self.size if self.size else LARGEST_LIBRARY
+            return ['measured'] if self.value > largest else []
+        return [column for column, value, limit in
+                (('ratio', self.ratio, LARGEST_RATIO), ('growth', self.growth, LARGEST_GROWTH))
+                if value is not None and value > limit]
+
+
+@dataclass
+class Gap:
+    """What is not measured at a size."""
+    group: str
+    size: int
+    reason: str
 
 
 def text(value, unit):
-    if value is None:
-        return ''
     steps = {'ns': [('s', 1e9), ('ms', 1e6), ('µs', 1e3), ('ns', 1)],
              'bytes': [('MiB', 1 << 20), ('KiB', 1 << 10), ('B', 1)]}[unit]
     name, step = next((each for each in steps if value >= each[1]), steps[-1])
     return f'{value / step:.3g} {name}' if value < 1000 * step else f'{value / step:.0f} {name}'
 
 
-def number(value, limit=None):
-    if value is None:
-        return ''
-    return f'{value:.2f}' + ('!' if limit and value > limit else '')
+def row(figure):
+    cells = {
+        'what': figure.what,
+        'size': f'{figure.size:,}' if figure.size else '',
+        'measured': text(figure.value, figure.unit),
+        'floor': text(figure.lowest, figure.unit) if figure.floor else '',
+        'ratio': '' if figure.ratio is None else f'{figure.ratio:.2f}',
+        'per row': text(figure.value / figure.size, figure.unit) if figure.size else '',
+        'growth': '' if figure.growth is None else f'{figure.growth:.2f}',
+        "floor's growth": '' if figure.lowest_growth is None else f'{figure.lowest_growth:.2f}',
+    }
+    for column in figure.faults:
+        cells[column] += ' !'
+    return tuple(cells[column] for column in HEAD)
 
 
-def row(figure, smallest):
-    listed = figure.size > 0
-    per_row = text(figure.per_row, figure.unit)
-    measured = text(figure.value, figure.unit)
-    if figure.unit == 'bytes':
-        if listed and figure.per_row > BYTES_PER_ROW:
-            per_row += '!'
-        if not listed and figure.value > LARGEST_LIBRARY:
-            measured += '!'
-    growth = figure.per_row / smallest.per_row if listed and smallest is not figure else None
-    # The aim is for lists. A change is to cost the same among many rows as among few: growth tells.
-    is_list = listed and figure.unit == 'ns' and not figure.what.endswith((' one', ' all'))
-    ratio_limit = LARGEST_RATIO if is_list else None
-    return (figure.what, f'{figure.size:,}' if listed else '', measured,
-            '' if figure.spread is None else f'{figure.spread:.0%}',
-            text(min(figure.floor), figure.unit) if figure.floor else '',
-            number(figure.ratio, ratio_limit), per_row,
-            number(growth, LARGEST_GROWTH if figure.unit == 'ns' else None))
-
-
-def table(figures):
-    """The lines of the table, in the order of the figures' first appearance, sizes of one thing together."""
-    smallest = {}
-    for figure in figures:
-        if figure.size and (figure.what not in smallest or figure.size < smallest[figure.what].size):
-            smallest[figure.what] = figure
-    order = list(dict.fromkeys(figure.what for figure in figures))
-    figures = sorted(figures, key=lambda figure: (order.index(figure.what), figure.size))
-    rows = [HEAD] + [row(figure, smallest.get(figure.what)) for figure in figures]
+def aligned(rows):
+    """The lines of one table, in columns that can be read without a browser, too."""
     widths = [max(len(cells[column]) for cells in rows) for column in range(len(HEAD))]
-    lines = ['  '.join(cell.ljust(width) if column == 0 else cell.rjust(width)
-                       for column, (cell, width) in enumerate(zip(cells, widths))).rstrip() for cells in rows]
-    lines.insert(1, '  '.join('-' * width for width in widths))
-    return lines + [
-        '',
-        'The best of the runs; measured and floor were run in turn. spread: by how much the middle one of the runs was',
-        'slower. growth: time per row, by that of the smallest size.',
-        f'Aims: ratio {LARGEST_RATIO} for lists, growth {LARGEST_GROWTH}, {BYTES_PER_ROW} bytes a row, '
-        f'library {LARGEST_LIBRARY >> 20} MiB; ! is beyond its aim.']
+    lines = ['| ' + ' | '.join(cell.ljust(width) if column == 0 else cell.rjust(width)
+                               for column, (cell, width) in enumerate(zip(cells, widths))) + ' |' for cells in rows]
+    rule = '|' + '|'.join('-' * (width + 2) if column == 0 else '-' * (width + 1) + ':'
+                          for column, width in enumerate(widths)) + '|'
+    return [lines[0], rule, *lines[1:]]
+
+
+def tables(figures, gaps=()):
+    """The lines of all tables, in the order of the figures' first appearance, sizes of one thing together."""
+    order = list(dict.fromkeys(figure.title for figure in figures))
+    figures = sorted(figures, key=lambda figure: (order.index(figure.title), figure.size))
+    for former, figure in itertools.pairwise(figures):
+        if former.title == figure.title and former.size:
+            figure.former = former
+    lines = []
+    for group in dict.fromkeys(figure.group for figure in figures):
+        lines += [f'## {group}', '', *aligned([HEAD] + [row(figure) for figure in figures if figure.group == group]), '']
+        for gap in gaps:
+            if gap.group == group:
+                lines += [f'{gap.size:,}: {gap.reason}', '']
+    return lines

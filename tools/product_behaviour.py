@@ -133,11 +133,14 @@ class Product:
     def _display_name(self, header):
         source = self._sources.get(next((path for path in self._sources if path.name == header.stem + ".cpp"), None))
         tokens = source.tokens if source else []
-        for before, equals, text in zip(tokens, tokens[1:], tokens[2:]):
-            if (before.value, equals.value) == ("displayName", "=") and text.kind == "text":
-                self._told.add(id(text))
+        for before, equals, name in zip(tokens, tokens[1:], tokens[2:]):
+            if (before.value, equals.value) == ("displayName", "="):
+                constant = self._constants.get(name.value)
+                texts = [token for token in (constant.tokens if constant else [name]) if token.kind == "text"]
+                self._told |= {id(text) for text in texts}
                 # Some get the name of what they stand for right after.
-                return None if any(token.value == "setDisplayName" for token in tokens) else text.value
+                if texts and not any(token.value == "setDisplayName" for token in tokens):
+                    return texts[0].value
         return None
 
     def _read_columns(self, path, source):

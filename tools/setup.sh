@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that building and running need, and says which. Does nothing when all are there.
+# Installs the Debian packages that building and running need, and those named, and says which. Does nothing when all
+# are there.
 set -euo pipefail
 
 packages=(
@@ -8,6 +9,7 @@ packages=(
   libpugixml-dev libsqlite3-dev libssl-dev openssl perl googletest libgtest-dev dpkg-dev make tcl
   clang-format clang-tidy libclang-rt-14-dev
   wine wine64 fonts-wine xvfb x11-utils imagemagick python3 procps
+  "$@"
 )
 
 missing=()

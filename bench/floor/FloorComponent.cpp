@@ -1,6 +1,7 @@
 #include "floor/FloorComponent.h"
 
 #include "floor/FloorObject.h"
+#include "floor/floorPictures.h"
 #include "platform/handles.h"
 
 #include <commctrl.h>
@@ -9,16 +10,6 @@ namespace Bench
 {
 namespace
 {
-
-constexpr int pictures = 24; // as many as the plug-in has
-
-HRESULT addPictures(IImageList& images)
-{
-    const platform::Bitmap small(CreateBitmap(16 * pictures, 16, 1, 32, nullptr));
-    const platform::Bitmap large(CreateBitmap(32 * pictures, 32, 1, 32, nullptr));
-    return images.ImageListSetStrip(reinterpret_cast<LONG_PTR*>(small.get()), reinterpret_cast<LONG_PTR*>(large.get()),
-                                    0, CLR_NONE);
-}
 
 // The buttons for the server's service show its state after every selection.
 void askForService()

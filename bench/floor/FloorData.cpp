@@ -2,6 +2,7 @@
 
 #include "floor/FloorComponent.h"
 #include "floor/FloorObject.h"
+#include "floor/floorPictures.h"
 
 namespace Bench
 {
@@ -13,7 +14,12 @@ const FloorNode& FloorData::nodeOf(MMC_COOKIE cookie) const
 
 HRESULT FloorData::Initialize(LPUNKNOWN console)
 {
-    return console->QueryInterface(IID_PPV_ARGS(m_nameSpace.GetAddressOf()));
+    Microsoft::WRL::ComPtr<IConsole2> own;
+    Microsoft::WRL::ComPtr<IImageList> images;
+    const bool complete = SUCCEEDED(console->QueryInterface(IID_PPV_ARGS(own.GetAddressOf()))) &&
+                          SUCCEEDED(own->QueryScopeImageList(&images)) &&
+                          SUCCEEDED(console->QueryInterface(IID_PPV_ARGS(m_nameSpace.GetAddressOf())));
+    return complete ? addPictures(*images.Get()) : E_NOINTERFACE;
 }
 
 HRESULT FloorData::CreateComponent(LPCOMPONENT* component)

@@ -1,7 +1,6 @@
 #include "floor/floorDialog.h"
 
 #include "platform/VisualStyles.h"
-#include "resources.h"
 
 #include <windows.h>
 
@@ -21,11 +20,12 @@ INT_PTR CALLBACK procedure(HWND dialog, UINT message, WPARAM wparam, LPARAM) noe
 
 } // namespace
 
-void showFloorDialog()
+void showFloorDialog(int dialog)
 {
-    static const platform::VisualStyles styles(GetModuleHandleW(nullptr));
+    const HMODULE plugIn = GetModuleHandleW(L"TMgmt.dll");
+    static const platform::VisualStyles styles(plugIn);
     const platform::VisualStyles::Scope scope(styles);
-    DialogBoxParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDD_FLOOR), GetActiveWindow(), procedure, 0);
+    DialogBoxParamW(plugIn, MAKEINTRESOURCEW(dialog), GetActiveWindow(), procedure, 0);
 }
 
 } // namespace Bench

@@ -3,8 +3,8 @@
 namespace Bench
 {
 
-// Shows a dialog with nothing behind its controls, in the style that the system gives its own, until OK or Cancel,
-// over the window that is active.
-void showFloorDialog();
+// Shows one of the plug-in's own dialogs, by the number of its resource and in the same style, with nothing behind its
+// controls, until OK or Cancel, over the window that is active.
+void showFloorDialog(int dialog);
 
 } // namespace Bench

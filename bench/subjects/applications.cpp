@@ -3,6 +3,8 @@
 #include "applicationFixture.h"
 #include "subjects/subjects.h"
 
+#include "tmgmt/resources/ids.h"
+
 #include <brimlow/system/FileSystem.h>
 #include <brimlow/tessaro/ServerTemplates.h>
 #include <brimlow/tessaro/UserCollection.h>
@@ -12,94 +14,206 @@ namespace Bench
 namespace
 {
 
-constexpr int templateNameEdit = 284;
+using Tessaro::ResourcesFolder;
+using Tessaro::ServerApplication;
+using Tessaro::ServerTemplates;
+
+constexpr wchar_t templatesNode[] = L"Server Templates";
+constexpr wchar_t applicationNode[] = L"Application 0";
+constexpr wchar_t folderNode[] = L"folder0";
+
 const Core::String guest = L"Guest";
 
-// The application that is worked with, in the middle of the others.
-Tessaro::ServerApplication& application(Tessaro::ServerTemplates& applications)
+Core::String inFolder(const Core::String& folder, const wchar_t* name)
 {
-    return applications.getAt(applications.getCount() / 2);
+    return Core::IO::FileSystem::combinePath(folder, name);
+}
+
+FloorNode list(const wchar_t* name, std::function<std::vector<std::wstring>()> read)
+{
+    return {.name = name, .columns = {L"Name"}, .read = std::move(read)};
 }
 
 std::vector<std::wstring> templateNames()
 {
-    Tessaro::ServerTemplates applications;
-    Tessaro::ServerApplication& shown = application(applications);
+    ServerTemplates applications;
+    const ServerApplication& application = applications.getAt(0);
     std::vector<std::wstring> names;
-    for (int index = 0; index < shown.getTemplatesCount(); ++index)
+    names.reserve(static_cast<std::size_t>(application.getTemplatesCount()));
+    for (int index = 0; index < application.getTemplatesCount(); ++index)
     {
-        names.push_back(shown.getAt(index).getDisplayName().str());
+        names.push_back(application.getAt(index).getDisplayName().str());
+    }
+    return names;
+}
+
+std::vector<std::wstring> fileNames()
+{
+    ServerTemplates applications;
+    const ResourcesFolder folder = applications.getAt(0).getResourceFolderAt(0);
+    std::vector<std::wstring> names;
+    names.reserve(static_cast<std::size_t>(folder.getCount()));
+    for (int index = 0; index < folder.getCount(); ++index)
+    {
+        names.push_back(folder.getAt(index).getDisplayName().str());
     }
     return names;
 }
 
 std::vector<std::wstring> namesWithAccess()
 {
-    Tessaro::ServerTemplates applications;
+    ServerTemplates applications;
     const Tessaro::UserCollection users;
     std::vector<std::wstring> names;
-    for (const Core::String& name : application(applications).getUsers())
+    names.reserve(applications.getAt(0).getUsers().size());
+    for (const Core::String& name : applications.getAt(0).getUsers())
     {
         names.push_back(name == guest ? name.str() : users.getUserByName(name).getUsername().str());
     }
     return names;
 }
 
-void templates(const std::wstring& name, std::size_t size, std::size_t repetitions)
+void make(const char* fixture, std::size_t size)
 {
-    // A console lists the nodes below a node among its rows: the users and the resource folders.
-    constexpr std::size_t rows = 1 + foldersOfEach + templatesOfEach;
-    FloorNode node{.name = L"Application",
-                   .children = std::vector<FloorNode>(1 + foldersOfEach, FloorNode{.name = L"Folder"}),
-                   .columns = {L"Name"},
-                   .read = templateNames};
-    ListBench bench("Templates of one application", std::move(node), {L"Server Templates", name}, rows, size,
-                    repetitions, [size] { Fixtures::make("applications", size); });
+    Fixtures::make("nothing", 0);
+    makeModelApplication();
+    Fixtures::make(fixture, size);
+    Fixtures::make("keep", 0);
+}
+
+const auto putBack = [] { Fixtures::make("kept", 0); };
+const auto openMiddle = [](List& list) { list.open(list.middle()); };
+const auto deleteSelected = [](List& list) { list.deleteSelected(); };
+
+} // namespace
+
+// The tree's own list of so many applications.
+void applications(std::size_t size, std::chrono::milliseconds patience)
+{
+    make("applications", size);
+    ListBench bench("Server Templates",
+                    {.name = templatesNode, .children = std::vector<FloorNode>(size, {.name = L"Application"})},
+                    {templatesNode}, size, size, patience, [] {});
     bench.show();
+    bench.leave();
+}
+
+// So many templates of one application. A console lists the nodes below a node among its rows, too: here the users and
+// a folder.
+void templates(std::size_t size, std::chrono::milliseconds patience)
+{
+    constexpr std::size_t nodes = 2;
+    make("templates", size);
+    FloorNode floor = list(L"Application", templateNames);
+    floor.children.resize(nodes, {.name = L"Node"});
+    ListBench bench("Templates of an application", std::move(floor), {templatesNode, applicationNode}, size + nodes,
+                    size, patience, putBack);
+    bench.show();
+    bench.leave();
+    bench.readTexts();
     bench.change({.what = "rename one",
-                  .command = [](List& list) { list.open(list.middle()); },
+                  .command = openMiddle,
                   .least =
                       []
                   {
-                      Tessaro::ServerTemplates applications;
-                      Tessaro::ServerApplication& shown = application(applications);
-                      const Tessaro::Template renamed = shown.getAt(shown.getTemplatesCount() / 2);
-                      shown.renameTemplate(renamed,
-                                           Core::IO::FileSystem::combinePath(shown.getApplicationPath(), L"renamed"));
+                      ServerTemplates applications;
+                      ServerApplication& application = applications.getAt(0);
+                      const Tessaro::Template middle = application.getAt(application.getTemplatesCount() / 2);
+                      application.renameTemplate(middle, inFolder(application.getApplicationPath(), L"renamed"));
                   },
-                  .rows = rows,
-                  .entered = std::map<int, std::wstring>{{templateNameEdit, L"renamed"}}});
+                  .rows = size + nodes,
+                  .entry = Entry{IDD_EDIT_TEMPLATE, {{IDC_TEMPLATE_NAME, L"renamed"}}}});
+    bench.change({.what = "delete one",
+                  .command = deleteSelected,
+                  .least =
+                      []
+                  {
+                      ServerTemplates applications;
+                      ServerApplication& application = applications.getAt(0);
+                      application.deleteTemplate(application.getAt(application.getTemplatesCount() / 2));
+                  },
+                  .rows = size + nodes - 1});
 }
 
-void access(const std::wstring& name, std::size_t size, std::size_t repetitions)
+// So many resource folders of one application, which are nodes of the tree, beside the users and one template.
+void resourceFolders(std::size_t size, std::chrono::milliseconds patience)
 {
-    ListBench bench("Users of one application", {.name = L"Users", .columns = {L"Name"}, .read = namesWithAccess},
-                    {L"Server Templates", name, L"Users"}, usersOfEach, size, repetitions,
-                    [size] { Fixtures::make("applications", size); });
+    make("folders", size);
+    FloorNode floor = list(L"Application", templateNames);
+    floor.children.resize(size + 1, {.name = L"Node"});
+    ListBench bench("Resource folders of an application", std::move(floor), {templatesNode, applicationNode}, size + 2,
+                    size, patience, putBack);
     bench.show();
+    bench.leave();
+    bench.readTexts();
+}
+
+// So many files of one resource folder.
+void resourceFiles(std::size_t size, std::chrono::milliseconds patience)
+{
+    make("files", size);
+    ListBench bench("Files of a resource folder", list(L"Folder", fileNames),
+                    {templatesNode, applicationNode, folderNode}, size, size, patience, putBack);
+    bench.show();
+    bench.leave();
+    bench.readTexts();
+    bench.change({.what = "rename one",
+                  .command = openMiddle,
+                  .least =
+                      []
+                  {
+                      ServerTemplates applications;
+                      ResourcesFolder folder = applications.getAt(0).getResourceFolderAt(0);
+                      const Tessaro::ResourceFile middle = folder.getAt(folder.getCount() / 2);
+                      folder.renameReourceFile(middle, inFolder(folder.getResourcesFolderPath(), L"renamed"));
+                  },
+                  .rows = size,
+                  .entry = Entry{IDD_RENAME_RESOURCE_FILE, {{IDC_RESOURCE_FILE_NAME, L"renamed"}}}});
+    bench.change({.what = "delete one",
+                  .command = deleteSelected,
+                  .least =
+                      []
+                  {
+                      ServerTemplates applications;
+                      ResourcesFolder folder = applications.getAt(0).getResourceFolderAt(0);
+                      folder.deleteResourceFile(folder.getAt(folder.getCount() / 2));
+                  },
+                  .rows = size - 1});
+}
+
+// So many users who may use one application.
+void accessList(std::size_t size, std::chrono::milliseconds patience)
+{
+    make("access", size);
+    ListBench bench("Users of an application", list(L"Users", namesWithAccess),
+                    {templatesNode, applicationNode, L"Users"}, size, size, patience, putBack);
+    bench.show();
+    bench.leave();
+    bench.readTexts();
     bench.change({.what = "grant one",
                   .command = [](List& list) { list.runCommand(L"&Grant Access To..."); },
                   .least =
                       []
                   {
-                      Tessaro::ServerTemplates applications;
-                      Tessaro::ServerApplication& shown = application(applications);
-                      shown.addUser(guest);
-                      applications.updateApplication(shown);
+                      ServerTemplates applications;
+                      ServerApplication& application = applications.getAt(0);
+                      application.addUser(guest);
+                      applications.updateApplication(application);
                   },
-                  .rows = usersOfEach + 1,
-                  .entered = std::map<int, std::wstring>()});
-}
-
-} // namespace
-
-void applications(std::size_t size, std::size_t repetitions)
-{
-    makeApplications(size, usersOfEach);
-    Tessaro::ServerTemplates all;
-    const std::wstring name = application(all).getDisplayName().str();
-    templates(name, size, repetitions);
-    access(name, size, repetitions);
+                  .rows = size + 1,
+                  .entry = Entry{IDD_GRANT_ACCESS}});
+    bench.change({.what = "revoke one",
+                  .command = deleteSelected,
+                  .least =
+                      []
+                  {
+                      ServerTemplates applications;
+                      ServerApplication& application = applications.getAt(0);
+                      const std::vector<Core::String>& names = application.getUsers();
+                      application.deleteUser(Core::String(names[names.size() / 2]));
+                      applications.updateApplication(application);
+                  },
+                  .rows = size - 1});
 }
 
 } // namespace Bench

@@ -1,64 +1,43 @@
 #include "Fixtures.h"
 #include "ListBench.h"
+#include "floorLists.h"
 #include "hotFolderFixture.h"
 #include "subjects/subjects.h"
+
+#include "tmgmt/resources/ids.h"
 
 #include <brimlow/hotfolder/HotFolderCollection.h>
 
 namespace Bench
 {
-namespace
+
+void hotFolders(std::size_t size, std::chrono::milliseconds patience)
 {
-
-constexpr int inputEdit = 232;
-constexpr int outputEdit = 237;
-
-std::vector<std::wstring> hotFolderCells()
-{
-    const HotFolders::HotFolderCollection hotFolders;
-    std::vector<std::wstring> cells;
-    cells.reserve(4 * static_cast<std::size_t>(hotFolders.getCount()));
-    for (int index = 0; index < hotFolders.getCount(); ++index)
-    {
-        const HotFolders::HotFolder& hotFolder = hotFolders.getAt(index);
-        cells.push_back(hotFolder.getDisplayName().str());
-        cells.push_back(hotFolder.getFolder().str());
-        cells.push_back(hotFolder.getFileMatchPattern().str());
-        cells.emplace_back(hotFolder.isMonitoringEnabled() ? L"Yes" : L"No");
-    }
-    return cells;
-}
-
-} // namespace
-
-void hotFolders(std::size_t size, std::size_t repetitions)
-{
+    Fixtures::make("nothing", 0);
     makeHotFolders(size);
-    const auto writeAnew = [size] { Fixtures::make("hot-folders", size); }; // as another program would
-    ListBench bench("Hot Folders",
-                    {.name = L"Hot Folders",
-                     .columns = {L"Folder Name", L"Full Path", L"Pattern", L"Enabled"},
-                     .read = hotFolderCells},
-                    {L"Hot Folders"}, size, size, repetitions, writeAnew);
+    Fixtures::make("keep", 0);
+    ListBench bench("Hot Folders", hotFolderList(), {L"Hot Folders"}, size, size, patience,
+                    [] { Fixtures::make("kept", 0); });
     bench.show();
     bench.leave();
     bench.readTexts();
     bench.refresh("nothing changed");
-    bench.refresh("changed elsewhere", writeAnew);
+    bench.refresh("changed elsewhere", [] { Fixtures::make("touched", 0); });
 
-    const std::map<int, std::wstring> added{{inputEdit, L"C:\\bench\\hot"}, {outputEdit, L"C:\\bench\\out"}};
+    const Entry added{IDD_HOT_FOLDER,
+                      {{IDC_HOT_FOLDER_INPUT, L"C:\\bench\\hot"}, {IDC_HOT_FOLDER_OUTPUT, L"C:\\bench\\out"}}};
     bench.change({.what = "add one",
                   .command = [](List& list) { list.runCommand(L"&Add Hot Folder..."); },
                   .least =
                       [&]
                   {
                       HotFolders::HotFolder hotFolder;
-                      hotFolder.setFolder(added.at(inputEdit));
-                      hotFolder.setOutputFolder(added.at(outputEdit));
+                      hotFolder.setFolder(added.texts.at(IDC_HOT_FOLDER_INPUT));
+                      hotFolder.setOutputFolder(added.texts.at(IDC_HOT_FOLDER_OUTPUT));
                       HotFolders::HotFolderCollection().addNewFolder(hotFolder);
                   },
                   .rows = size + 1,
-                  .entered = added});
+                  .entry = added});
 
     const auto middle = [size](const HotFolders::HotFolderCollection& all)
     { return all.getAt(static_cast<int>(size / 2)); };
@@ -71,7 +50,7 @@ void hotFolders(std::size_t size, std::size_t repetitions)
                       all.updateFolder(middle(all));
                   },
                   .rows = size,
-                  .entered = std::map<int, std::wstring>(),
+                  .entry = Entry{IDD_HOT_FOLDER},
                   .listsAnew = false});
     bench.change({.what = "delete one",
                   .command = [](List& list) { list.deleteSelected(); },

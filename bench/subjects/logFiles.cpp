@@ -1,6 +1,7 @@
 #include "Fixtures.h"
 #include "ListBench.h"
 #include "Report.h"
+#include "floorLists.h"
 #include "logFolder.h"
 #include "memoryUse.h"
 #include "subjects/subjects.h"
@@ -39,13 +40,13 @@ std::size_t memoryOf(Stage& stage, List& list, std::size_t size)
 
 } // namespace
 
-void logFiles(std::size_t size, std::size_t repetitions)
+void logFiles(std::size_t size, std::chrono::milliseconds patience)
 {
+    Fixtures::make("nothing", 0);
     Fixtures::make("logs", 0);
     const std::wstring folder = logFolder(size);
-    ListBench bench("Log Files",
-                    {.name = L"Log Files", .columns = {L"Log name"}, .read = [&] { return logsIn(folder); }},
-                    {L"Log", L"Log Files"}, size, size, repetitions, [size] { Fixtures::make("logs", size); });
+    ListBench bench("Log Files", logFileList(size), {L"Log", L"Log Files"}, size, size, patience,
+                    [size] { Fixtures::make("logs", size); });
     if (size >= smallestForMemory)
     {
         bench.plugIn().show();

@@ -1,7 +1,10 @@
 #include "Fixtures.h"
 #include "ListBench.h"
 #include "applicationFixture.h"
+#include "floorLists.h"
 #include "subjects/subjects.h"
+
+#include "tmgmt/resources/ids.h"
 
 #include <brimlow/tessaro/ServerTemplates.h>
 #include <brimlow/tessaro/UserCollection.h>
@@ -12,29 +15,6 @@ namespace Bench
 {
 namespace
 {
-
-constexpr int nameEdit = 232;
-constexpr int passwordEdit = 233;
-constexpr int confirmationEdit = 234;
-
-std::vector<std::wstring> userCells()
-{
-    const Tessaro::UserCollection users;
-    std::vector<std::wstring> cells{L"Guest", users.isGuestEnabled() ? L"Yes" : L"No"};
-    cells.reserve(2 * static_cast<std::size_t>(users.getCount() + 1));
-    for (int index = 0; index < users.getCount(); ++index)
-    {
-        const Tessaro::User& user = users.getAt(index);
-        cells.push_back(user.getUsername().str());
-        cells.emplace_back(user.isEnabled() ? L"Yes" : L"No");
-    }
-    return cells;
-}
-
-FloorNode userList()
-{
-    return {.name = L"Users", .columns = {L"Username", L"Enabled"}, .read = userCells};
-}
 
 // The user in the row in the middle of the list, above whose rows that of the guest is.
 Tessaro::User middleUser(const Tessaro::UserCollection& users)
@@ -64,30 +44,33 @@ const auto deleteSelected = [](List& list) { list.deleteSelected(); };
 
 } // namespace
 
-// So many users, and no application.
-void users(std::size_t size, std::size_t repetitions)
+// So many users, and one application.
+void users(std::size_t size, std::chrono::milliseconds patience)
 {
-    makeApplications(0, size);
-    ListBench bench("Users", userList(), {L"Users"}, size + 1, size, repetitions,
-                    [size] { Fixtures::make("users", size); });
+    Fixtures::make("nothing", 0);
+    makeModelApplication();
+    Fixtures::make("users", size);
+    Fixtures::make("keep", 0);
+    ListBench bench("Users", userList(), {L"Users"}, size + 1, size, patience, [] { Fixtures::make("kept", 0); });
     bench.show();
     bench.leave();
     bench.readTexts();
 
-    const std::map<int, std::wstring> added{
-        {nameEdit, L"bench"}, {passwordEdit, L"secret"}, {confirmationEdit, L"secret"}};
+    const Entry added{
+        IDD_ADD_USER,
+        {{IDC_USERNAME, L"bench"}, {IDC_USER_PASSWORD, L"secret"}, {IDC_NEW_USER_CONFIRMATION, L"secret"}}};
     bench.change({.what = "add one",
                   .command = [](List& list) { list.runCommand(L"&Add User..."); },
                   .least =
                       [&]
                   {
                       Tessaro::User user;
-                      user.setUsername(added.at(nameEdit));
-                      user.setPasswordEncoded(added.at(passwordEdit));
+                      user.setUsername(added.texts.at(IDC_USERNAME));
+                      user.setPasswordEncoded(added.texts.at(IDC_USER_PASSWORD));
                       Tessaro::UserCollection().addNewUser(user);
                   },
                   .rows = size + 2,
-                  .entered = added});
+                  .entry = added});
     bench.change({.what = "edit one",
                   .command = [](List& list) { list.open(list.middle()); },
                   .least =
@@ -97,22 +80,22 @@ void users(std::size_t size, std::size_t repetitions)
                       users.updateUser(middleUser(users));
                   },
                   .rows = size + 1,
-                  .entered = std::map<int, std::wstring>()});
+                  .entry = Entry{IDD_EDIT_USER}});
     bench.change({.what = "delete one", .command = deleteSelected, .least = deleteMiddleUser, .rows = size});
 }
 
-// A few users whom all of so many applications list.
-void usersOfApplications(std::size_t size, std::size_t repetitions)
+// One user, whom all of so many applications list.
+void usersOfApplications(std::size_t size, std::chrono::milliseconds patience)
 {
-    makeApplications(size, usersOfEach);
-    ListBench bench("Users: of applications", userList(), {L"Users"}, usersOfEach + 1, size, repetitions,
-                    [size]
-                    {
-                        Fixtures::make("users", usersOfEach);
-                        Fixtures::make("applications", size);
-                    });
-    bench.change(
-        {.what = "delete the same of all", .command = deleteSelected, .least = deleteMiddleUser, .rows = usersOfEach});
+    Fixtures::make("nothing", 0);
+    makeModelApplication();
+    Fixtures::make("applications", size);
+    Fixtures::make("keep", 0);
+    ListBench bench("Users", userList(), {L"Users"}, 2, size, patience, [] { Fixtures::make("kept", 0); });
+    bench.change({.what = "delete one whom all applications list (size: applications)",
+                  .command = deleteSelected,
+                  .least = deleteMiddleUser,
+                  .rows = 1});
 }
 
 } // namespace Bench

@@ -6,6 +6,7 @@
 #include "MessageBoxPolicy.h"
 #include "ScreenshotRun.h"
 #include "TextLister.h"
+#include "findNode.h"
 
 #include "console/host/Registration.h"
 

@@ -8,9 +8,6 @@
 namespace Console
 {
 
-// A JSON string with its quotes.
-std::wstring jsonString(std::wstring_view text);
-
 // The tree as one JSON object:
 //
 //     {"name": "…", "image": 1, "columns": [{"title": "…", "width": 150}], "rows": [{"image": 2, "cells": ["…"]}],

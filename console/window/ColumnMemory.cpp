@@ -1,8 +1,10 @@
 #include "ColumnMemory.h"
 
 #include "Settings.h"
+#include "numberLine.h"
 
-#include <sstream>
+#include <algorithm>
+#include <utility>
 
 namespace Console
 {
@@ -26,27 +28,18 @@ std::optional<std::vector<int>> rememberedWidths(const std::wstring& columnSet, 
     {
         return std::nullopt;
     }
-    std::vector<int> widths;
-    std::wistringstream numbers(*text);
-    for (int width = 0; numbers >> width && width >= 0 && width <= widest;)
-    {
-        widths.push_back(width);
-    }
-    return numbers.eof() && widths.size() == columns ? std::optional(widths) : std::nullopt;
+    auto widths = parseNumbers(*text, widest);
+    const bool fits =
+        widths && widths->size() == columns && std::ranges::all_of(*widths, [](int width) { return width >= 0; });
+    return fits ? std::move(widths) : std::nullopt;
 }
 
 void rememberWidths(const std::wstring& columnSet, const std::vector<int>& widths)
 {
-    if (columnSet.empty())
+    if (!columnSet.empty())
     {
-        return;
+        columnSettings().setText(columnSet, formatNumbers(widths));
     }
-    std::wostringstream text;
-    for (const int width : widths)
-    {
-        text << (text.tellp() > 0 ? L" " : L"") << width;
-    }
-    columnSettings().setText(columnSet, text.str());
 }
 
 void applyRememberedWidths(View& view)

@@ -228,6 +228,12 @@ void MainWindow::handleCommand(int command)
         // There are two, so both ways lead to the other one.
         m_controller->switchPane();
         return;
+    case ID_NEXT_AREA:
+        switchArea(1);
+        return;
+    case ID_PREVIOUS_AREA:
+        switchArea(-1);
+        return;
     default:
         handleViewCommand(command);
         handleEditCommand(command);
@@ -263,12 +269,11 @@ void MainWindow::handleViewCommand(int command)
 
 void MainWindow::handleEditCommand(int command)
 {
-    constexpr std::array<std::pair<int, MMC_CONSOLE_VERB>, 7> verbs{{
+    constexpr std::array<std::pair<int, MMC_CONSOLE_VERB>, 6> verbs{{
         {ID_EDIT_DELETE, MMC_VERB_DELETE},
         {ID_EDIT_RENAME, MMC_VERB_RENAME},
         {ID_EDIT_PROPERTIES, MMC_VERB_PROPERTIES},
         {ID_EDIT_CUT, MMC_VERB_CUT},
-        {ID_EDIT_COPY, MMC_VERB_COPY},
         {ID_EDIT_PASTE, MMC_VERB_PASTE},
         {ID_EDIT_PRINT, MMC_VERB_PRINT},
     }};
@@ -280,10 +285,30 @@ void MainWindow::handleEditCommand(int command)
             return;
         }
     }
+    if (command == ID_EDIT_COPY)
+    {
+        m_controller->copy();
+    }
     if (command == ID_EDIT_SELECT_ALL && !m_controller->treeHasFocus())
     {
         m_controller->results().list().selectAll();
     }
+}
+
+void MainWindow::switchArea(int step)
+{
+    std::vector<HWND> areas{m_controller->tree().control()};
+    if (m_controller->view().pane() == View::Pane::list)
+    {
+        areas.push_back(m_controller->results().list().control());
+    }
+    if (m_placement.toolbar)
+    {
+        areas.push_back(m_toolbar.control());
+    }
+    const auto count = static_cast<int>(areas.size());
+    const auto present = static_cast<int>(std::ranges::find(areas, GetFocus()) - areas.begin()) % count;
+    SetFocus(areas[static_cast<std::size_t>((present + step + count) % count)]);
 }
 
 void MainWindow::refresh()

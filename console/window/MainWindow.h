@@ -54,6 +54,8 @@ class MainWindow final : public Window, private ViewController::Frame, private T
     void handleCommand(int command);
     void handleViewCommand(int command);
     void handleEditCommand(int command);
+    // To the tree, the list, the toolbar and so round.
+    void switchArea(int step);
     void handleMenuOpening(HMENU menu);
     void handleMenuLoopEnd();
     void handleDestruction();

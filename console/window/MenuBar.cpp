@@ -33,6 +33,9 @@ void updateMenu(HMENU menu, const View& view, const WindowPlacement& placement, 
     {
         EnableMenuItem(menu, command, view.pane() == View::Pane::list ? MF_ENABLED : MF_GRAYED);
     }
+    EnableMenuItem(menu, ID_EDIT_COPY, view.selectedNode() != NodeId::none ? MF_ENABLED : MF_GRAYED);
+    EnableMenuItem(menu, ID_EDIT_SELECT_ALL,
+                   view.pane() == View::Pane::list && view.multiSelect() ? MF_ENABLED : MF_GRAYED);
     CheckMenuItem(menu, ID_VIEW_TOOLBAR, placement.toolbar ? MF_CHECKED : MF_UNCHECKED);
     CheckMenuItem(menu, ID_VIEW_STATUS_BAR, placement.statusBar ? MF_CHECKED : MF_UNCHECKED);
     if (!snapIn.empty())

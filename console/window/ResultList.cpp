@@ -4,6 +4,7 @@
 #include "Failure.h"
 #include "Restore.h"
 #include "ShownColumns.h"
+#include "hiddenLabel.h"
 
 #include <uxtheme.h>
 #include <windowsx.h>
@@ -32,6 +33,7 @@ ResultList::ResultList(HWND parent, View& view, Owner& owner)
       m_view(view),
       m_owner(owner)
 {
+    createHiddenLabel(handle(), L"Result list");
     m_control = CreateWindowExW(WS_EX_CLIENTEDGE, WC_LISTVIEWW, L"Result list",
                                 WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_REPORT | LVS_OWNERDATA | LVS_SHOWSELALWAYS |
                                     LVS_SHAREIMAGELISTS | LVS_EDITLABELS | LVS_AUTOARRANGE,

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <algorithm>
+
 namespace Console
 {
 
@@ -24,8 +26,8 @@ std::optional<std::wstring> Settings::text(const std::wstring& name) const
     {
         return std::nullopt;
     }
-    // RegGetValue counts the zero at the end.
-    text.resize(size / sizeof(wchar_t) - 1);
+    // Up to the zero that RegGetValue puts at the end and counts. Where the value has no byte at all, it counts none.
+    text.resize(std::min(text.find(L'\0'), text.size()));
     return text;
 }
 

@@ -9,6 +9,7 @@ namespace Console
 
 Splitter::Splitter(HWND parent, std::function<void(int)> moved)
     : Window({.className = L"TConsole.Splitter",
+              .title = L"Divider between tree and list",
               .style = WS_CHILD | WS_VISIBLE,
               .parent = parent,
               .cursor = LoadCursorW(nullptr, IDC_SIZEWE),

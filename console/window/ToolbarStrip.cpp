@@ -3,6 +3,7 @@
 #include "Dpi.h"
 #include "Failure.h"
 #include "resource.h"
+#include "toolbarKeys.h"
 
 #include "platform/handles.h"
 
@@ -90,6 +91,7 @@ ToolbarStrip::ToolbarStrip(HWND parent, Owner& owner)
     // With version 5 of its messages a bar takes more than one image list.
     SendMessageW(m_control, CCM_SETVERSION, 5, 0);
     SendMessageW(m_control, TB_SETEXTENDEDSTYLE, 0, TBSTYLE_EX_MIXEDBUTTONS | TBSTYLE_EX_HIDECLIPPEDBUTTONS);
+    serveKeys(m_control);
 }
 
 ToolbarStrip::~ToolbarStrip()
@@ -230,6 +232,8 @@ void ToolbarStrip::addOwnButtons()
         button.idCommand = own.command;
         button.iBitmap = image++;
         button.fsStyle = BTNS_AUTOSIZE;
+        // Not shown without BTNS_SHOWTEXT; it is what screen readers say.
+        button.iString = reinterpret_cast<INT_PTR>(own.tooltip);
         add(m_control, button);
     }
 }
@@ -246,13 +250,12 @@ void ToolbarStrip::addSnapInButton(const ToolbarButton& button, unsigned bar, in
     entry.iBitmap = button.image >= 0 ? MAKELONG(button.image, imageList) : I_IMAGENONE;
     entry.fsState = stateOf(button);
     entry.fsStyle = static_cast<BYTE>(BTNS_AUTOSIZE | (button.checkable ? BTNS_CHECK : BTNS_BUTTON));
-    // A button without a picture is only its text.
-    if (button.image < 0)
-    {
-        entry.fsStyle |= BTNS_SHOWTEXT;
-        entry.iString = reinterpret_cast<INT_PTR>(button.text.c_str());
-    }
     m_buttons.push_back({bar, button.command, false, button.tooltip.empty() ? button.text : button.tooltip});
+    // A button without a picture is only its text; with one its text is what screen readers say.
+    const bool isText = button.image < 0;
+    const std::wstring& text = isText || !button.text.empty() ? button.text : m_buttons.back().tooltip;
+    entry.fsStyle |= static_cast<BYTE>(isText ? BTNS_SHOWTEXT : 0);
+    entry.iString = reinterpret_cast<INT_PTR>(text.c_str());
     add(m_control, entry);
 }
 

@@ -31,6 +31,8 @@ class ToolbarStrip final : public Window
     ToolbarStrip(HWND parent, Owner& owner);
     ~ToolbarStrip() override;
 
+    // The bar itself, which takes the focus.
+    HWND control() const { return m_control; }
     int height() const;
     // After both of these the console's own buttons are disabled.
     void setAppearance(HFONT font, int dpi);

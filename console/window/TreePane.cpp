@@ -3,6 +3,7 @@
 #include "Dpi.h"
 #include "Failure.h"
 #include "Restore.h"
+#include "hiddenLabel.h"
 
 #include <uxtheme.h>
 #include <windowsx.h>
@@ -39,6 +40,7 @@ TreePane::TreePane(HWND parent, const ScopeTree& tree, NodeId top, Owner& owner)
       m_top(top),
       m_owner(owner)
 {
+    createHiddenLabel(handle(), L"Console tree");
     m_control = CreateWindowExW(WS_EX_CLIENTEDGE, WC_TREEVIEWW, L"Console tree",
                                 WS_CHILD | WS_VISIBLE | WS_TABSTOP | TVS_HASBUTTONS | TVS_LINESATROOT | TVS_HASLINES |
                                     TVS_SHOWSELALWAYS | TVS_EDITLABELS,

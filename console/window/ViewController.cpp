@@ -4,6 +4,8 @@
 #include "MenuPresenter.h"
 #include "Restore.h"
 #include "WaitCursor.h"
+#include "clipboardText.h"
+#include "rowText.h"
 
 #include <utility>
 
@@ -196,6 +198,26 @@ void ViewController::runVerb(MMC_CONSOLE_VERB verb)
     act([&] { m_view->runVerb(verb); });
 }
 
+void ViewController::copy()
+{
+    act(
+        [&]
+        {
+            if (m_view->verb(MMC_VERB_COPY).enabled)
+            {
+                m_view->runVerb(MMC_VERB_COPY);
+            }
+            else if (actsOnRows())
+            {
+                putOnClipboard(m_frame.window(), selectedRowsAsText(*m_view));
+            }
+            else if (m_view->selectedNode() != NodeId::none)
+            {
+                putOnClipboard(m_frame.window(), m_host.tree().text(m_view->selectedNode()));
+            }
+        });
+}
+
 void ViewController::setViewMode(int mode)
 {
     act(
@@ -217,13 +239,19 @@ void ViewController::focusPane()
     SetFocus(m_treeFocused ? m_tree->control() : m_results->list().control());
 }
 
+bool ViewController::actsOnRows() const
+{
+    return !m_treeFocused && m_view->pane() == View::Pane::list && !m_view->selectedRows().empty();
+}
+
 ContextMenu ViewController::menu()
 {
-    if (m_treeFocused || m_view->pane() != View::Pane::list)
+    if (actsOnRows())
     {
-        return m_view->nodeMenu(m_view->selectedNode());
+        return m_view->rowMenu();
     }
-    return m_view->selectedRows().empty() ? m_view->paneMenu() : m_view->rowMenu();
+    return m_treeFocused || m_view->pane() != View::Pane::list ? m_view->nodeMenu(m_view->selectedNode())
+                                                               : m_view->paneMenu();
 }
 
 void ViewController::showMenu(const std::function<ContextMenu()>& open, POINT screen)

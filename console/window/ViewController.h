@@ -83,6 +83,9 @@ class ViewController final : private TreePane::Owner,
     bool canGoForward() const { return m_history.canGoForward(); }
     bool canGoUp() const;
     void runVerb(MMC_CONSOLE_VERB verb);
+    // What the snap-in copies where it has the verb; else the text of the selected rows, or of the node where the tree
+    // has the focus or no row is selected.
+    void copy();
     void setViewMode(int mode);
     void switchPane();
     void focusPane();
@@ -129,6 +132,9 @@ class ViewController final : private TreePane::Owner,
     void nodeRemoved(NodeId node) override;
     void nodeChanged(NodeId node) override;
     void newWindowAsked(NodeId node, DWORD options, const std::wstring& title) override;
+
+    // Commands are about the selected rows, not about the node.
+    bool actsOnRows() const;
 
     void note(unsigned changes);
     void later(std::function<void()> action);

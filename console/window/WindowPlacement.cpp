@@ -2,9 +2,9 @@
 
 #include "Dpi.h"
 #include "Settings.h"
+#include "numberLine.h"
 
 #include <algorithm>
-#include <sstream>
 
 namespace Console
 {
@@ -15,6 +15,8 @@ namespace
 // Below this a window cannot be used.
 constexpr LONG smallestWidth = 200;
 constexpr LONG smallestHeight = 150;
+// In pixels, beyond the edge of any screen. Windows itself keeps places of windows in 16 bits in its messages.
+constexpr int farthest = 100'000;
 
 // At 96 dots per inch.
 constexpr int defaultWidth = 1000;
@@ -48,21 +50,26 @@ BOOL CALLBACK addMonitor(HMONITOR monitor, HDC, RECT*, LPARAM lParam)
 
 std::wstring WindowPlacement::toText() const
 {
-    std::wostringstream text;
-    text << normal.left << L' ' << normal.top << L' ' << normal.right << L' ' << normal.bottom << L' ' << maximized
-         << L' ' << treeWidth << L' ' << toolbar << L' ' << statusBar;
-    return text.str();
+    return formatNumbers({static_cast<int>(normal.left), static_cast<int>(normal.top), static_cast<int>(normal.right),
+                          static_cast<int>(normal.bottom), maximized, treeWidth, toolbar, statusBar});
 }
 
 std::optional<WindowPlacement> WindowPlacement::fromText(const std::wstring& text)
 {
-    WindowPlacement placement;
-    std::wistringstream numbers(text);
-    numbers >> placement.normal.left >> placement.normal.top >> placement.normal.right >> placement.normal.bottom >>
-        placement.maximized >> placement.treeWidth >> placement.toolbar >> placement.statusBar;
+    const auto numbers = parseNumbers(text, farthest);
+    if (!numbers || numbers->size() != 8)
+    {
+        return std::nullopt;
+    }
+    const std::vector<int>& number = *numbers;
+    const WindowPlacement placement{.normal = {number[0], number[1], number[2], number[3]},
+                                    .maximized = number[4] != 0,
+                                    .treeWidth = number[5],
+                                    .toolbar = number[6] != 0,
+                                    .statusBar = number[7] != 0};
     const bool sensible = placement.normal.right - placement.normal.left >= smallestWidth &&
                           placement.normal.bottom - placement.normal.top >= smallestHeight && placement.treeWidth >= 0;
-    return numbers && sensible ? std::optional(placement) : std::nullopt;
+    return sensible ? std::optional(placement) : std::nullopt;
 }
 
 WindowPlacement startPlacement(bool remembered, const std::optional<SIZE>& size, int dpi)
@@ -94,7 +101,10 @@ void rememberPlacement(HWND window, WindowPlacement placement)
     present.length = sizeof present;
     if (GetWindowPlacement(window, &present))
     {
-        placement.maximized = present.showCmd == SW_SHOWMAXIMIZED;
+        // A window that is minimised now comes back as it was before.
+        const bool minimized = present.showCmd == SW_SHOWMINIMIZED;
+        placement.maximized =
+            minimized ? (present.flags & WPF_RESTORETOMAXIMIZED) != 0 : present.showCmd == SW_SHOWMAXIMIZED;
         placement.normal = present.rcNormalPosition;
         Settings().setText(settingName, placement.toText());
     }

@@ -45,6 +45,8 @@
 #define ID_NEXT_PANE 250
 #define ID_PREVIOUS_PANE 251
 #define ID_CONTEXT_MENU 252
+#define ID_NEXT_AREA 253
+#define ID_PREVIOUS_AREA 254
 #define ID_ACTION_NOTHING 260
 
 // Commands of the Action menu: this and the item's own number.

@@ -1,4 +1,5 @@
 #include "DialogTestBase.h"
+#include "dialogContents.h"
 
 #include "tmgmt/resources/ids.h"
 #include "tmgmt/settings/EditBoolPropertyDlg.h"
@@ -14,6 +15,31 @@ constexpr wchar_t caption[] = L"Edit Property";
 class EditBoolPropertyDlgTest : public DialogTestBase
 {
 };
+
+TEST_F(EditBoolPropertyDlgTest, hasTheseControls)
+{
+    EditBoolPropertyDlg dialog(L"Name", true, L"Description", true);
+    robot().dialog(caption,
+                   [](ModalWindow& window)
+                   {
+                       EXPECT_EQ(Acceptance::contentsOf(window.handle()),
+                                 (std::vector<std::wstring>{
+                                     L"-1 Static Property &Name:",
+                                     L"202 Edit Name",
+                                     L"-1 Static &Value:",
+                                     L"268 Button True",
+                                     L"269 Button False",
+                                     L"-1 Static &Description:",
+                                     L"204 Edit Description",
+                                     L"273 Button Restart the service to apply changes.",
+                                     L"206 Button Re&set to default",
+                                     L"1 Button OK",
+                                     L"2 Button Cancel",
+                                 }));
+                       window.press(IDCANCEL);
+                   });
+    dialog.show(frame());
+}
 
 TEST_F(EditBoolPropertyDlgTest, opensWithTheFocusOnOkAndTheValueChecked)
 {

@@ -1,4 +1,5 @@
 #include "DialogTestBase.h"
+#include "dialogContents.h"
 
 #include "tmgmt/resources/ids.h"
 #include "tmgmt/settings/EditEnumPropertyDlg.h"
@@ -37,6 +38,33 @@ class EditEnumPropertyDlgTest : public DialogTestBase
 
 using Buttons = std::vector<int>;
 
+TEST_F(EditEnumPropertyDlgTest, hasTheseControls)
+{
+    auto dialog = dialogFor({{L"a", L"A"}, {L"b", L"B"}, {L"c", L"C"}, {L"d", L"D"}}, L"a");
+    robot().dialog(caption,
+                   [](ModalWindow& window)
+                   {
+                       EXPECT_EQ(Acceptance::contentsOf(window.handle()),
+                                 (std::vector<std::wstring>{
+                                     L"-1 Static Property &Name:",
+                                     L"202 Edit Name",
+                                     L"-1 Static &Value:",
+                                     L"207 Button A",
+                                     L"208 Button B",
+                                     L"209 Button C",
+                                     L"210 Button D",
+                                     L"-1 Static &Description:",
+                                     L"204 Edit Description",
+                                     L"273 Button Restart the service to apply changes.",
+                                     L"206 Button Re&set to default",
+                                     L"1 Button OK",
+                                     L"2 Button Cancel",
+                                 }));
+                       window.press(IDCANCEL);
+                   });
+    dialog.show(frame());
+}
+
 TEST_F(EditEnumPropertyDlgTest, offersTheFirstFourOptionsOnly)
 {
     auto dialog = dialogFor({{L"a", L"A"}, {L"b", L"B"}, {L"c", L"C"}, {L"d", L"D"}, {L"e", L"E"}}, L"e");
@@ -72,6 +100,7 @@ TEST_F(EditEnumPropertyDlgTest, hidesTheButtonsWithoutAnOption)
     EXPECT_EQ(dialog.show(frame()), IDCANCEL);
 }
 
+// Proves: the last button gets the focus whether it is visible or not.
 TEST_F(EditEnumPropertyDlgTest, putsTheFocusOnTheLastButtonEvenWhenItIsHidden)
 {
     for (const PropertyOptions& options : {PropertyOptions{{L"a", L"A"}, {L"b", L"B"}, {L"c", L"C"}},

@@ -1,4 +1,5 @@
 #include "DialogTestBase.h"
+#include "dialogContents.h"
 
 #include "tmgmt/resources/ids.h"
 #include "tmgmt/settings/EditPropertyDlg.h"
@@ -41,6 +42,29 @@ class EditPropertyDlgTest : public DialogTestBase
                        });
     }
 };
+
+TEST_F(EditPropertyDlgTest, hasTheseControls)
+{
+    auto dialog = dialogFor(PropertyKind::text, L"some value");
+    cancelAfter(
+        [](ModalWindow& window)
+        {
+            EXPECT_EQ(Acceptance::contentsOf(window.handle()), (std::vector<std::wstring>{
+                                                                   L"-1 Static Property &Name:",
+                                                                   L"202 Edit Name",
+                                                                   L"-1 Static &Value:",
+                                                                   L"203 Edit some value",
+                                                                   L"205 Static ",
+                                                                   L"-1 Static &Description:",
+                                                                   L"204 Edit Description",
+                                                                   L"273 Button Restart the service to apply changes.",
+                                                                   L"206 Button Re&set to default",
+                                                                   L"1 Button OK",
+                                                                   L"2 Button Cancel",
+                                                               }));
+        });
+    dialog.show(frame());
+}
 
 TEST_F(EditPropertyDlgTest, opensWithNameValueDescriptionCheckBoxAndFocusOnTheValue)
 {
@@ -92,6 +116,7 @@ TEST_F(EditPropertyDlgTest, showsTheUnitOfTheKindAndNeverTheTextOfTheResource)
     }
 }
 
+// Proves: only the beginning of a number has to be one, and the text is stored as typed.
 TEST_F(EditPropertyDlgTest, keepsARealNumberAsTyped)
 {
     auto dialog = dialogFor(PropertyKind::points, L"10");
@@ -100,6 +125,8 @@ TEST_F(EditPropertyDlgTest, keepsARealNumberAsTyped)
     EXPECT_EQ(dialog.value, L"12pt");
 }
 
+// Proves: a number or boolean that is refused is an error and the field gets its former text back, a port is a
+// warning and the typed text stays.
 TEST_F(EditPropertyDlgTest, complainsAboutWhatIsNoNumberAndGivesTheFormerTextAndTheFocusBack)
 {
     auto dialog = dialogFor(PropertyKind::percentage, L"10");
@@ -114,6 +141,7 @@ TEST_F(EditPropertyDlgTest, complainsAboutWhatIsNoNumberAndGivesTheFormerTextAnd
     EXPECT_EQ(dialog.show(frame()), IDCANCEL);
 }
 
+// Proves: a second refusal in a row gives back the text of the first.
 TEST_F(EditPropertyDlgTest, givesTheTextOfTheFirstRefusalBackAfterASecondOne)
 {
     auto dialog = dialogFor(PropertyKind::points, L"10");
@@ -161,6 +189,8 @@ TEST_F(EditPropertyDlgTest, turnsAnythingIntoAnIntegerWithoutAMessage)
     EXPECT_EQ(dialog.value, L"0");
 }
 
+// Proves: a number or boolean that is refused is an error and the field gets its former text back, a port is a
+// warning and the typed text stays.
 TEST_F(EditPropertyDlgTest, complainsAboutPortsWithAWarningAndKeepsTheTypedText)
 {
     auto dialog = dialogFor(PropertyKind::tcpPort, L"1099");

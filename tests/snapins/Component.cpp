@@ -197,6 +197,7 @@ void Component::select(bool scope, bool several)
         verbs->SetVerbState(verb, HIDDEN, FALSE);
         verbs->SetVerbState(verb, ENABLED, TRUE);
     }
+    verbs->SetVerbState(MMC_VERB_COPY, ENABLED, settings().copies);
     verbs->SetVerbState(MMC_VERB_PASTE, ENABLED, scope);
     if (!scope)
     {
@@ -298,7 +299,7 @@ HRESULT Component::GetDisplayInfo(RESULTDATAITEM* item)
     }
     else
     {
-        m_text = item->nCol == 0   ? L"Row " + std::to_wstring(number)
+        m_text = item->nCol == 0   ? settings().rowName + std::to_wstring(number)
                  : item->nCol == 1 ? std::to_wstring(number % 10)
                                    : L"";
     }

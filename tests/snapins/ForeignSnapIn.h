@@ -54,6 +54,8 @@ struct Settings
     bool compare = false;              // IResultDataCompare, else texts
     bool openOnDoubleClick = false;    // MMCN_DBLCLICK selects the second child
     bool propertyPages = false;
+    bool copies = true;               // has the verb MMC_VERB_COPY
+    const wchar_t* rowName = L"Row "; // before a row's number
     bool handleExpandSync = false;
     HRESULT unhandled = S_FALSE; // what it answers to notifications that it does not know
 

@@ -71,4 +71,11 @@ TEST_F(ColumnMemory, IgnoresWhatDoesNotFit)
     EXPECT_EQ(rememberedWidths(L"set", 2), std::nullopt);
     rememberWidths(L"set", {10, 20000});
     EXPECT_EQ(rememberedWidths(L"set", 2), std::nullopt);
+    EXPECT_EQ(rememberedWidths(L"set", 1), std::nullopt) << "the number that is too large counts, too";
+}
+
+TEST_F(ColumnMemory, IgnoresAValueWithoutAnyByte)
+{
+    RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Brimlow\\TConsole\\Columns", L"set", REG_SZ, nullptr, 0);
+    EXPECT_EQ(rememberedWidths(L"set", 2), std::nullopt);
 }

@@ -1,6 +1,7 @@
 #include "JsonLister.h"
 #include "TextLister.h"
 #include "Utf8.h"
+#include "jsonString.h"
 
 #include <gtest/gtest.h>
 

@@ -10,7 +10,8 @@ using namespace Console;
 class TheWindow : public WindowTest
 {
   protected:
-    HWND descendant(const wchar_t* type) const
+    HWND descendant(const wchar_t* type) const { return descendant(window().handle(), type); }
+    static HWND descendant(HWND ancestor, const wchar_t* type)
     {
         struct Search
         {
@@ -18,7 +19,7 @@ class TheWindow : public WindowTest
             HWND found = nullptr;
         } search{type};
         EnumChildWindows(
-            window().handle(),
+            ancestor,
             [](HWND child, LPARAM lParam)
             {
                 auto& wanted = *reinterpret_cast<Search*>(lParam);
@@ -63,7 +64,7 @@ TEST_F(TheWindow, ShowsColumnsRowsStatusAndDescription)
     EXPECT_EQ(statusText(0), L"100% full");
     EXPECT_EQ(statusText(2), L"ready");
     EXPECT_EQ(SendMessageW(descendant(PROGRESS_CLASSW), PBM_GETPOS, 0, 0), 42);
-    EXPECT_EQ(textOf(descendant(WC_STATICW)), L"Things");
+    EXPECT_EQ(textOf(descendant(controller().results().handle(), WC_STATICW)), L"Things");
 }
 
 TEST_F(TheWindow, MirrorsTheTree)

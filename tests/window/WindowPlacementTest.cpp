@@ -73,8 +73,9 @@ TEST(WindowPlacement, ComesBackFromItsText)
 
 TEST(WindowPlacement, RefusesTextsThatAreNotPlacements)
 {
-    for (const wchar_t* text : {L"", L"1 2 3", L"0 0 800 600 0 200 1 x", L"0 0 10 10 0 200 1 1",
-                                L"0 0 800 600 0 -1 1 1", L"0 0 99999999999999999999 600 0 200 1 1"})
+    for (const wchar_t* text :
+         {L"", L"1 2 3", L"0 0 800 600 0 200 1 x", L"0 0 10 10 0 200 1 1", L"0 0 800 600 0 -1 1 1",
+          L"0 0 99999999999999999999 600 0 200 1 1", L"-2147483648 0 2147483647 600 0 200 1 1"})
     {
         EXPECT_FALSE(WindowPlacement::fromText(text)) << testing::PrintToString(std::wstring(text));
     }

@@ -110,7 +110,7 @@ std::wstring describe(const wchar_t* context, DWORD code)
     std::wstring message(context);
     if (length > 0)
     {
-        // The system's text ends with a line break, which stays.
+        // Kept as is: the line break at the end of the system's text stays in the middle of the message.
         return message.append(L": ")
             .append(static_cast<const wchar_t*>(text.get()), length)
             .append(L" (")

@@ -55,6 +55,7 @@ HRESULT HotFolderItem::OnDblClick(Console& console)
 
 HRESULT HotFolderItem::OnDelete(Console& console)
 {
+    // Kept as is: a deletion that the library refuses is reported under the product's name.
     HotFolders::HotFolderCollection().removeFolder(m_hotFolder);
     console.refreshResultList(*lister());
     return S_OK;

@@ -17,17 +17,17 @@ namespace TMgmt
 
 RootBranches makeBranches()
 {
-    const Core::SmartPtr<FileReport> report(new FileReport);
+    const LoadedSettings settings(new FileReport);
     // Members are made in their order: the settings first, as they are declared.
-    SettingsBranches settings{
-        .afpEncoder = new AFPEncoderSettingsItem(report),
-        .listenerConfiguration = new ListenerConfigurationItem(report),
+    SettingsBranches branches{
+        .afpEncoder = new AFPEncoderSettingsItem(settings),
+        .listenerConfiguration = new ListenerConfigurationItem(settings),
         .privateFonts = new PrivateFontsCollectionItem,
     };
     return {
-        .settings = new SettingsItem(std::move(settings)),
+        .settings = new SettingsItem(std::move(branches)),
         .about = new AboutKVTessaroItem,
-        .log = new LogItem(report, new LogListItem(report)),
+        .log = new LogItem(settings, new LogListItem(settings.report())),
         .hotFolders = new HotFoldersCollectionItem,
         .templates = new TemplatesCollection,
         .users = new UsersCollectionItem,

@@ -15,18 +15,18 @@ constexpr int defaultBacklog = 50;
 
 } // namespace
 
-ListenerConfigurationItem::ListenerConfigurationItem(const Core::SmartPtr<FileReport>& report)
+ListenerConfigurationItem::ListenerConfigurationItem(const LoadedSettings& settings)
     : Item(ScopeNode{.displayName = L"Listener Configuration", .image = 13, .childCount = 0}),
       m_address(new PropertyItem(SettingKey::serverAddress, L"0.0.0.0", PropertyKind::text, L"IP Address",
                                  L"The server will use the specified IP address to listen for incoming requests. Use "
                                  L"127.0.0.1 to restrict access only to the current computer (loopback), 0.0.0.0 to "
                                  L"listen on all network adapters, or a specific IP address.",
-                                 report)),
+                                 settings)),
       m_port(new PropertyItem(SettingKey::serverPort, std::to_wstring(defaultPort), PropertyKind::tcpPort, L"Port",
-                              L"TCP port used to listen for incoming requests.", report)),
+                              L"TCP port used to listen for incoming requests.", settings)),
       m_backlog(new PropertyItem(SettingKey::serverBacklog, std::to_wstring(defaultBacklog), PropertyKind::integer,
                                  L"Backlog", L"Specifies the maximum number of outstanding connection requests.",
-                                 report))
+                                 settings))
 {
 }
 

@@ -12,21 +12,20 @@ namespace TMgmt
 {
 
 PropertyItem::PropertyItem(const wchar_t* key, const Core::String& defaultValue, PropertyKind kind,
-                           const wchar_t* displayName, const wchar_t* description, Core::SmartPtr<FileReport> report)
-    : PropertyItem(key, defaultValue, kind, {}, displayName, description, std::move(report))
+                           const wchar_t* displayName, const wchar_t* description, const LoadedSettings& settings)
+    : PropertyItem(key, defaultValue, kind, {}, displayName, description, settings)
 {
 }
 
 PropertyItem::PropertyItem(const wchar_t* key, const Core::String& defaultValue, PropertyOptions options,
-                           const wchar_t* displayName, const wchar_t* description, Core::SmartPtr<FileReport> report)
-    : PropertyItem(key, defaultValue, PropertyKind::enumeration, std::move(options), displayName, description,
-                   std::move(report))
+                           const wchar_t* displayName, const wchar_t* description, const LoadedSettings& settings)
+    : PropertyItem(key, defaultValue, PropertyKind::enumeration, std::move(options), displayName, description, settings)
 {
 }
 
 PropertyItem::PropertyItem(const wchar_t* key, const Core::String& defaultValue, PropertyKind kind,
                            PropertyOptions options, const wchar_t* displayName, const wchar_t* description,
-                           Core::SmartPtr<FileReport> report)
+                           const LoadedSettings& settings)
     : Item(ResultNode{.displayName = L"Property Item", .image = 2}),
       m_key(key),
       m_default(defaultValue),
@@ -34,19 +33,9 @@ PropertyItem::PropertyItem(const wchar_t* key, const Core::String& defaultValue,
       m_name(displayName),
       m_description(description),
       m_options(std::move(options)),
-      m_report(std::move(report))
+      m_report(settings.report())
 {
-    try
-    {
-        refresh();
-        m_report->succeeded();
-    }
-    catch (const Core::Exception& exception)
-    {
-        // A broken file must not keep the tree from loading.
-        m_report->failed(exception);
-        show(std::nullopt);
-    }
+    show(settings.find(m_key));
 }
 
 void PropertyItem::refresh()

@@ -108,7 +108,7 @@ void KeyDerivationBudget::chargeDerivation(const X509_ALGOR& derivation)
              {parameters->costParameter, parameters->blockSize, parameters->parallelizationParameter})
         {
             const std::uint64_t number = numberOf(factor);
-            if (number > maxRounds || rounds > maxRounds)
+            if (number > usualRounds || rounds > usualRounds)
             {
                 throw Pkcs12Fault::tooSlow;
             }

@@ -6,6 +6,7 @@
 #include "privateKey.h"
 
 #include <algorithm>
+#include <unordered_map>
 #include <utility>
 
 namespace Security
@@ -31,11 +32,11 @@ std::vector<X509Ptr> copiesOf(const std::vector<X509*>& certificates)
 
 } // namespace
 
-KeyStore::KeyStore(Secret password) : m_password(std::move(password)) {}
+KeyStore::KeyStore(Secret password, int rounds) : m_password(std::move(password)), m_rounds(rounds) {}
 
-KeyStore::KeyStore(std::string_view file, Secret password) : m_password(std::move(password))
+KeyStore::KeyStore(std::string_view file, Secret password, KeyDerivationBudget budget) : m_password(std::move(password))
 {
-    Pkcs12Reader reader(file, m_password);
+    Pkcs12Reader reader(file, m_password, budget);
     for (Pkcs12Reader::KeyBag& bag : reader.keys())
     {
         if (!bag.encrypted)
@@ -44,23 +45,30 @@ KeyStore::KeyStore(std::string_view file, Secret password) : m_password(std::mov
         }
         m_waitingKeys.push_back({std::move(bag.localKeyId), std::move(bag.encrypted)});
     }
+    // Several certificates of one key have a copy of it each.
+    std::unordered_multimap<std::string, StoredKey*> keys;
+    for (StoredKey& key : m_waitingKeys)
+    {
+        keys.emplace(key.id, &key);
+    }
     for (Pkcs12Reader::CertificateBag& bag : reader.certificates())
     {
         if (!bag.localKeyId.empty())
         {
-            const auto key = findWaiting(bag.localKeyId);
-            if (key == m_waitingKeys.end())
+            const auto key = keys.find(bag.localKeyId);
+            if (key == keys.end())
             {
                 throw Pkcs12Fault::damaged;
             }
-            m_identities.push_back({std::move(bag.certificate), std::move(*key), {}});
-            m_waitingKeys.erase(key);
+            m_identities.push_back({std::move(bag.certificate), std::move(*key->second), {}});
+            keys.erase(key);
         }
         else if (!m_identities.empty())
         {
             m_identities.back().issuers.push_back(std::move(bag.certificate));
         }
     }
+    std::erase_if(m_waitingKeys, [](const StoredKey& key) { return !key.encrypted; });
 }
 
 std::string KeyStore::toFile() const
@@ -79,7 +87,7 @@ std::string KeyStore::toFile() const
     {
         writer.addKey(*key.encrypted, key.id);
     }
-    return writer.finish(m_password);
+    return writer.finish(m_password, m_rounds);
 }
 
 const KeyStore::Identity* KeyStore::find(const std::string& fingerprint) const
@@ -108,13 +116,14 @@ bool KeyStore::add(X509& certificate, EVP_PKEY& key, const std::vector<X509*>& i
     }
     std::string id = keyId(key);
     std::erase_if(m_waitingKeys, [&](const StoredKey& waiting) { return waiting.id == id; });
-    m_identities.push_back({copyOf(certificate), {std::move(id), encryptKey(key, m_password)}, copiesOf(issuers)});
+    m_identities.push_back(
+        {copyOf(certificate), {std::move(id), encryptKey(key, m_password, m_rounds)}, copiesOf(issuers)});
     return true;
 }
 
 void KeyStore::addWaitingKey(EVP_PKEY& key)
 {
-    m_waitingKeys.push_back({keyId(key), encryptKey(key, m_password)});
+    m_waitingKeys.push_back({keyId(key), encryptKey(key, m_password, m_rounds)});
 }
 
 bool KeyStore::join(X509& certificate, const std::string& keyId, const std::vector<X509*>& issuers)

@@ -30,10 +30,13 @@ class KeyStore
         std::vector<X509Ptr> issuers;
     };
 
+    // In which a password becomes a key. It is random, or empty for an export: more rounds would protect nothing.
+    static constexpr int usualRounds = PKCS12_DEFAULT_ITER;
+
     // An empty one.
-    explicit KeyStore(Secret password);
+    explicit KeyStore(Secret password, int rounds = usualRounds);
     // Throws Pkcs12Fault.
-    KeyStore(std::string_view file, Secret password);
+    KeyStore(std::string_view file, Secret password, KeyDerivationBudget budget = KeyDerivationBudget());
     // The file, as docs/formats.md describes it.
     std::string toFile() const;
 
@@ -57,6 +60,7 @@ class KeyStore
     std::vector<StoredKey>::iterator findWaiting(const std::string& id);
 
     Secret m_password;
+    int m_rounds = usualRounds;
     std::vector<Identity> m_identities;
     std::vector<StoredKey> m_waitingKeys;
 };

@@ -21,7 +21,8 @@ constexpr std::size_t maxIssuers = 10;
 
 } // namespace
 
-Pkcs12Import::Pkcs12Import(std::string_view content, const Secret& password) : m_file(content, password)
+Pkcs12Import::Pkcs12Import(std::string_view content, const Secret& password, KeyDerivationBudget budget)
+    : m_file(content, password, budget)
 {
     if (m_file.certificates().size() > maxCertificates)
     {

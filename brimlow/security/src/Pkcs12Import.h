@@ -25,7 +25,7 @@ class Pkcs12Import
     };
 
     // Throws Pkcs12Fault. The password is lent, for as long as the object lives.
-    Pkcs12Import(std::string_view content, const Secret& password);
+    Pkcs12Import(std::string_view content, const Secret& password, KeyDerivationBudget budget = KeyDerivationBudget());
 
     // Adds every certificate of the file whose private key is in the file or in the key store, with those of its
     // issuers that are in the file.

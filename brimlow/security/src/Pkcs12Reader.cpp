@@ -47,8 +47,8 @@ std::string localKeyIdOf(const PKCS12_SAFEBAG* bag)
 
 } // namespace
 
-Pkcs12Reader::Pkcs12Reader(std::string_view content, const Secret& password)
-    : m_passwords{password.get()}, m_passwordLength(password.length())
+Pkcs12Reader::Pkcs12Reader(std::string_view content, const Secret& password, KeyDerivationBudget budget)
+    : m_budget(budget), m_passwords{password.get()}, m_passwordLength(password.length())
 {
     loadAlgorithms();
     ERR_clear_error();
@@ -158,14 +158,8 @@ void Pkcs12Reader::readBags(STACK_OF(PKCS12_SAFEBAG) * bags)
             m_keys.push_back({nullptr, copyOf(*PKCS12_SAFEBAG_get0_p8inf(bag)), localKeyIdOf(bag)});
             break;
         case NID_pkcs8ShroudedKeyBag:
-        {
-            const X509_SIG* encrypted = PKCS12_SAFEBAG_get0_pkcs8(bag);
-            const X509_ALGOR* algorithm = nullptr;
-            X509_SIG_get0(encrypted, &algorithm, nullptr);
-            m_budget.charge(*algorithm);
-            m_keys.push_back({Security::copyOf(*encrypted), nullptr, localKeyIdOf(bag)});
+            m_keys.push_back({Security::copyOf(*PKCS12_SAFEBAG_get0_pkcs8(bag)), nullptr, localKeyIdOf(bag)});
             break;
-        }
         case NID_certBag:
             if (PKCS12_SAFEBAG_get_bag_nid(bag) == NID_x509Certificate)
             {
@@ -187,8 +181,14 @@ void Pkcs12Reader::readBags(STACK_OF(PKCS12_SAFEBAG) * bags)
     }
 }
 
-KeyPtr Pkcs12Reader::decrypt(const KeyBag& bag) const
+KeyPtr Pkcs12Reader::decrypt(const KeyBag& bag)
 {
+    if (bag.encrypted)
+    {
+        const X509_ALGOR* algorithm = nullptr;
+        X509_SIG_get0(bag.encrypted.get(), &algorithm, nullptr);
+        m_budget.charge(*algorithm);
+    }
     const auto decryptWith = [&](const char* password)
     { return Pkcs8Ptr(PKCS8_decrypt(bag.encrypted.get(), password, m_passwordLength)); };
     const Pkcs8Ptr decrypted = bag.encrypted ? withPassword(decryptWith) : nullptr;

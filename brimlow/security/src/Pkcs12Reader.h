@@ -32,11 +32,12 @@ class Pkcs12Reader
     };
 
     // The password is lent, for as long as the reader lives.
-    Pkcs12Reader(std::string_view content, const Secret& password);
+    Pkcs12Reader(std::string_view content, const Secret& password, KeyDerivationBudget budget = KeyDerivationBudget());
 
     std::vector<CertificateBag>& certificates() noexcept { return m_certificates; }
     std::vector<KeyBag>& keys() noexcept { return m_keys; }
-    KeyPtr decrypt(const KeyBag& bag) const;
+    // A key costs its rounds here, not when the file is read: a key store has as many keys as it likes.
+    KeyPtr decrypt(const KeyBag& bag);
 
   private:
     void verify(PKCS12& file);

@@ -24,10 +24,10 @@ void push(const BagsPtr& bags, PKCS12_SAFEBAG* newBag, const std::string& localK
 }
 
 // encryption: the cipher; -1 for none.
-void addSafe(SafesPtr& safes, const BagsPtr& bags, int encryption, const char* password)
+void addSafe(SafesPtr& safes, const BagsPtr& bags, int encryption, int rounds, const char* password)
 {
     auto* list = safes.release();
-    const int added = PKCS12_add_safe(&list, bags.get(), encryption, PKCS12_DEFAULT_ITER, password);
+    const int added = PKCS12_add_safe(&list, bags.get(), encryption, rounds, password);
     safes.reset(list);
     check(added, fileFailure);
 }
@@ -53,14 +53,13 @@ void Pkcs12Writer::addKey(const X509_SIG& encryptedKey, const std::string& local
     push(m_keys, bag, localKeyId);
 }
 
-std::string Pkcs12Writer::finish(const Secret& password) const
+std::string Pkcs12Writer::finish(const Secret& password, int rounds) const
 {
     SafesPtr safes;
-    addSafe(safes, m_certificates, NID_aes_256_cbc, password.get());
-    addSafe(safes, m_keys, -1, nullptr);
+    addSafe(safes, m_certificates, NID_aes_256_cbc, rounds, password.get());
+    addSafe(safes, m_keys, -1, rounds, nullptr);
     const Pkcs12Ptr file(check(PKCS12_add_safes(safes.get(), 0), fileFailure));
-    check(PKCS12_set_mac(file.get(), password.get(), password.length(), nullptr, 0, PKCS12_DEFAULT_ITER, EVP_sha256()),
-          fileFailure);
+    check(PKCS12_set_mac(file.get(), password.get(), password.length(), nullptr, 0, rounds, EVP_sha256()), fileFailure);
     unsigned char* bytes = nullptr;
     const int size = check(i2d_PKCS12(file.get(), &bytes), fileFailure);
     const MemoryPtr owner(bytes);

@@ -20,7 +20,8 @@ class Pkcs12Writer
     void addCertificate(X509& certificate, const std::string& localKeyId = {});
     void addKey(const X509_SIG& encryptedKey, const std::string& localKeyId);
 
-    std::string finish(const Secret& password) const;
+    // rounds: in which the password becomes a key, for the certificates and again for the HMAC.
+    std::string finish(const Secret& password, int rounds) const;
 
   private:
     BagsPtr m_certificates;

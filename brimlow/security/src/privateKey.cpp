@@ -26,13 +26,13 @@ std::string keyId(EVP_PKEY& key)
     return digest;
 }
 
-EncryptedPkcs8Ptr encryptKey(EVP_PKEY& key, const Secret& password)
+EncryptedPkcs8Ptr encryptKey(EVP_PKEY& key, const Secret& password, int rounds)
 {
     constexpr wchar_t failure[] = L"A private key cannot be encrypted";
     const Pkcs8Ptr plain(check(EVP_PKEY2PKCS8(&key), failure));
-    return EncryptedPkcs8Ptr(check(PKCS8_encrypt(-1, EVP_aes_256_cbc(), password.get(), password.length(), nullptr, 0,
-                                                 PKCS12_DEFAULT_ITER, plain.get()),
-                                   failure));
+    return EncryptedPkcs8Ptr(
+        check(PKCS8_encrypt(-1, EVP_aes_256_cbc(), password.get(), password.length(), nullptr, 0, rounds, plain.get()),
+              failure));
 }
 
 KeyPtr decryptKey(const X509_SIG& encrypted, const Secret& password)

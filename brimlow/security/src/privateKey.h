@@ -14,8 +14,8 @@ KeyPtr generateKey();
 // SHA-256 over the public key, which a private key and its certificates have in common.
 std::string keyId(EVP_PKEY& key);
 
-// PBES2 with AES-256.
-EncryptedPkcs8Ptr encryptKey(EVP_PKEY& key, const Secret& password);
+// PBES2 with AES-256. rounds: in which the password becomes a key.
+EncryptedPkcs8Ptr encryptKey(EVP_PKEY& key, const Secret& password, int rounds);
 // Throws Pkcs12Fault where the key is not what encryptKey made with that password.
 KeyPtr decryptKey(const X509_SIG& encrypted, const Secret& password);
 EncryptedPkcs8Ptr copyOf(const X509_SIG& encrypted);

@@ -70,6 +70,14 @@ bool isPlace(const String& relative)
                        [](const String& name) { return isTemporaryName(name) || !nameRefusal(name); });
 }
 
+// Whether one is a folder that the other is in. Nothing can be moved there, and undoing it would fail for ever.
+bool isOneInTheOther(const String& one, const String& other)
+{
+    const String first = nameKey(one) + L"\\";
+    const String second = nameKey(other) + L"\\";
+    return first != second && (first.startsWith(second) || second.startsWith(first));
+}
+
 String nameIn(const String& relative)
 {
     return Core::IO::FileSystem::getFileName(relative);
@@ -196,7 +204,8 @@ std::optional<MoveJournal::Pending> MoveJournal::read() const
 {
     const std::vector<String> lines = fromBytes(Core::IO::AtomicFile::read(m_path)).split(L"\n");
     if (lines.size() != 4 || !lines[3].empty() || !isPlace(lines[1]) || !isPlace(lines[2]) ||
-        m_files.leadsElsewhere(parentOf(lines[1])) || m_files.leadsElsewhere(parentOf(lines[2])))
+        isOneInTheOther(lines[1], lines[2]) || m_files.leadsElsewhere(parentOf(lines[1])) ||
+        m_files.leadsElsewhere(parentOf(lines[2])))
     {
         return std::nullopt;
     }

@@ -1,5 +1,6 @@
 #include "fonts_logs/FontsTest.h"
 #include "frame/BareSnapIn.h"
+#include "frame/menus.h"
 #include "kit/windows.h"
 
 namespace Acceptance
@@ -42,7 +43,7 @@ TEST_F(FontsList, hasItsColumnsAndDoesNotSort)
     EXPECT_FALSE(view().view().sortable());
 }
 
-// The first two are asked for at the same place: kept as is.
+// Proves: both of the first two columns are asked for at 1.
 TEST_F(FontsList, asksForItsColumnsAtOneOneTwoAndThree)
 {
     store({{L"MapFont:ARIAL", L"a.ttf"}});
@@ -87,6 +88,7 @@ TEST_F(FontsList, leavesAliasesOutAndShowsEveryOtherKeyOfOthers)
     EXPECT_EQ(rows, view().rows());
 }
 
+// Proves: a piece that says both, as "BOLDITALIC", counts as bold only.
 TEST_F(FontsList, takesBolditalicInOneWordForBoldOnly)
 {
     store({{L"MapFont:ARIAL-BOLDITALIC", L"a.ttf"}});
@@ -94,6 +96,8 @@ TEST_F(FontsList, takesBolditalicInOneWordForBoldOnly)
     EXPECT_EQ((std::vector<Cells>{{L"ARIAL", L"a.ttf", L"Yes", L"No"}}), view().rows());
 }
 
+// Proves: a family with a "-" comes out cut there and what follows counts for its style only, and any other key is
+// shown like a mapping.
 TEST_F(FontsList, cutsAFamilyAtItsFirstDash)
 {
     store({{L"MapFont:MY-FONT", L"a.ttf"}, {L"MapFont:SEMI-BOLDFACE-ITALIC", L"b.ttf"}});
@@ -171,6 +175,8 @@ TEST_F(FontsList, offersOneCommandOnTheNodeAndOneOnARow)
     openAt();
     EXPECT_EQ(Cells{addCommand}, view().nodeMenu(node));
     EXPECT_EQ((Cells{editCommand, L"-", L"&Delete"}), view().menu(L"A"));
+    EXPECT_EQ(std::vector{topItem(addCommand, 1042)}, menuOfNode(node));
+    EXPECT_EQ(std::vector{topItem(editCommand, 1044)}, menuOfRow(node, 0));
 }
 
 TEST_F(FontsList, readsTheFileWheneverItIsShown)
@@ -184,6 +190,7 @@ TEST_F(FontsList, readsTheFileWheneverItIsShown)
     EXPECT_EQ((std::vector<Cells>{{L"B", L"2", L"No", L"No"}}), view().rows());
 }
 
+// Proves: PrivateFontsCollectionItem on the console's refresh.
 TEST_F(FontsList, readsTheFileWhenItIsRefreshed)
 {
     store({{L"MapFont:A", L"1"}});

@@ -1,5 +1,6 @@
 #include "fonts_logs/LogsTest.h"
 #include "frame/BareSnapIn.h"
+#include "frame/menus.h"
 #include "frame/nodeData.h"
 #include "kit/ImportSpy.h"
 #include "kit/windows.h"
@@ -184,6 +185,7 @@ TEST_F(LogList, isReadUnderTheWaitCursorOnceTheOldRowsAreGone)
     SetCursor(former);
 }
 
+// Proves: LogListItem on the console's refresh.
 TEST_F(LogList, answersARefreshThatComesAllTheSame)
 {
     write(L"a.log");
@@ -210,25 +212,8 @@ TEST_F(LogList, hasItsMenus)
 TEST_F(LogList, hasItsCommandsUnderTheirNumbersAtTheTopOfTheMenu)
 {
     write(L"a.log");
-    BareSnapIn snapIn;
-    const auto view = snapIn.makeView();
-    const SCOPEDATAITEM node = snapIn.node(logFiles);
-    ASSERT_EQ(S_OK, view->component->Notify(snapIn.object(node.lParam).Get(), MMCN_SHOW, TRUE, node.ID));
-    MenuDouble menu;
-    long allowed = CCM_INSERTIONALLOWED_TOP;
-    EXPECT_EQ(S_OK, snapIn.menus()->AddMenuItems(snapIn.object(node.lParam).Get(), &menu, &allowed));
-    const MMC_COOKIE row = view->console.results.rows.at(0).lParam;
-    EXPECT_EQ(S_OK, view->menus()->AddMenuItems(view->object(row).Get(), &menu, &allowed));
-    const auto item = [](const wchar_t* text, long command)
-    {
-        return MenuDouble::Item{.text = text,
-                                .statusText = L"",
-                                .command = command,
-                                .insertionPoint = static_cast<long>(CCM_INSERTIONPOINTID_PRIMARY_TOP),
-                                .flags = MF_ENABLED,
-                                .specialFlags = 0};
-    };
-    EXPECT_EQ((std::vector{item(deleteAll, 1038), item(openLog, 1041)}), menu.items);
+    EXPECT_EQ(std::vector{topItem(deleteAll, 1038)}, menuOfNode(logFiles));
+    EXPECT_EQ(std::vector{topItem(openLog, 1041)}, menuOfRow(logFiles, 0));
 }
 
 TEST_F(LogList, offersDeletingOnARowOnly)

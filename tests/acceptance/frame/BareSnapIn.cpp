@@ -140,10 +140,4 @@ std::wstring BareSnapIn::View::cell(MMC_COOKIE cookie, int column) const
     return SUCCEEDED(component->GetDisplayInfo(&item)) && item.str ? item.str : L"(none)";
 }
 
-HRESULT canUnloadNow()
-{
-    const FARPROC function = GetProcAddress(GetModuleHandleW(L"TMgmt.dll"), "DllCanUnloadNow");
-    return reinterpret_cast<HRESULT(STDAPICALLTYPE*)()>(reinterpret_cast<void*>(function))();
-}
-
 } // namespace Acceptance

@@ -3,6 +3,7 @@
 #include "frame/doubles/ConsoleDouble.h"
 #include "frame/doubles/ControlbarDouble.h"
 #include "frame/doubles/MenuDouble.h"
+#include "kit/canUnloadNow.h"
 #include "platform/mmc.h"
 
 #include <wrl/client.h>
@@ -55,8 +56,5 @@ class BareSnapIn
     ConsoleDouble console;
     Microsoft::WRL::ComPtr<IComponentData> data;
 };
-
-// Every object of the plug-in's is gone and nothing keeps the library.
-HRESULT canUnloadNow();
 
 } // namespace Acceptance

@@ -4,6 +4,8 @@
 
 #include <cstring>
 #include <stdexcept>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "kit/ServerFiles.h"
@@ -40,6 +42,26 @@ class ModuleResource
         std::vector<WORD> words(size / sizeof(WORD));
         std::memcpy(words.data(), data, words.size() * sizeof(WORD));
         return words;
+    }
+
+    // A text of the string table; empty when there is none.
+    std::wstring text(UINT id) const
+    {
+        wchar_t buffer[256] = L"";
+        LoadStringW(m_module, id, buffer, 256);
+        return buffer;
+    }
+
+    // What a menu calls its popup and the command in it.
+    std::pair<std::wstring, std::wstring> menuTexts(int id, UINT command) const
+    {
+        const HMENU menu = LoadMenuW(m_module, MAKEINTRESOURCEW(id));
+        wchar_t popup[64] = L"";
+        wchar_t item[64] = L"";
+        GetMenuStringW(menu, 0, popup, 64, MF_BYPOSITION);
+        GetMenuStringW(menu, command, item, 64, MF_BYCOMMAND);
+        DestroyMenu(menu);
+        return {popup, item};
     }
 
   private:

@@ -1,9 +1,7 @@
-#include "brimlow/hotfolder/HotFolderCollection.h"
-#include "certificates/installCertificates.h"
 #include "frame/BareSnapIn.h"
+#include "frame/FilledServer.h"
 #include "frame/nodeData.h"
 #include "kit/windows.h"
-#include "templates/TemplatesTest.h"
 
 namespace Acceptance
 {
@@ -36,30 +34,6 @@ void PrintTo(const ResultRow& row, std::ostream* out)
 {
     *out << "rows of \"" << narrow(row.parent) << '"';
 }
-
-// A server with something for every node that lists what it finds.
-class FilledServer : public TemplatesTest
-{
-  protected:
-    void SetUp() override
-    {
-        TemplatesTest::SetUp();
-        ServerFiles::write(ServerFiles::folder() / L"Common" / L"Config" / L"Fonts.config",
-                           ServerFiles::configurationWith("    <add key=\"MapFont:A\" value=\"a.ttf\"/>\r\n"
-                                                          "    <add key=\"MapFont:B\" value=\"b.ttf\"/>\r\n"));
-        ServerFiles::write(ServerFiles::folder() / L"Log" / L"one.log", "");
-        ServerFiles::write(ServerFiles::folder() / L"Log" / L"two.log", "");
-        HotFolders::HotFolder hotFolder;
-        hotFolder.setFolder(L"C:\\One");
-        hotFolder.setOutputFolder(L"C:\\Out");
-        HotFolders::HotFolderCollection().addNewFolder(hotFolder);
-        installCertificates({L"one.example"});
-        addApplication(L"Invoices");
-        addTemplate(L"Invoices", L"letter.kvd");
-        addFolder(L"Invoices", L"Images");
-        addFile(L"Invoices", L"Images", L"logo.png");
-    }
-};
 
 // The last part of a path.
 std::wstring nameIn(const std::wstring& path)
@@ -186,6 +160,7 @@ class ResultRows : public FilledServer, public testing::WithParamInterface<Resul
 {
 };
 
+// Proves: TemplateResourcesItem and TemplateUserItem have the same node type.
 TEST_P(ResultRows, areInsertedAsTheTableHasThem)
 {
     BareSnapIn snapIn;

@@ -206,6 +206,7 @@ class ServiceFailures : public ServiceControl, public testing::WithParamInterfac
 {
 };
 
+// Proves: the line break at the end of the system's text stays in the middle of the message.
 TEST_P(ServiceFailures, areReportedWithTheSystemsExplanation)
 {
     for (const DWORD error : {ERROR_ACCESS_DENIED, ERROR_SERVICE_DOES_NOT_EXIST, ERROR_SERVICE_DISABLED})

@@ -63,6 +63,7 @@ TEST_F(HotFolderFaults, anEditOfALockedDatabaseIsReported)
     EXPECT_EQ(Core::String(L"*.*"), stored().at(0).getFileMatchPattern());
 }
 
+// Proves: a deletion that the library refuses is reported under the product's name.
 TEST_F(HotFolderFaults, aDeletionThatIsRefusedIsReportedByTheConsolesEdge)
 {
     openNode();

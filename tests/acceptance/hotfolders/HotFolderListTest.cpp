@@ -1,4 +1,5 @@
 #include "frame/BareSnapIn.h"
+#include "frame/menus.h"
 #include "hotfolders/HotFoldersTest.h"
 #include "kit/ImportSpy.h"
 
@@ -72,6 +73,7 @@ TEST_F(HotFolderList, offersToAddOne)
 {
     openNode();
     EXPECT_THAT(view().nodeMenu(node), testing::Contains(add));
+    EXPECT_THAT(menuOfNode(node), ElementsAre(topItem(add, 1022)));
 }
 
 TEST_F(HotFolderList, offersTheProperties)
@@ -79,8 +81,10 @@ TEST_F(HotFolderList, offersTheProperties)
     storeAll({L"Invoices"});
     openNode();
     EXPECT_THAT(view().menu(L"Invoices"), testing::Contains(properties));
+    EXPECT_THAT(menuOfRow(node, 0), ElementsAre(topItem(properties, 1048)));
 }
 
+// Proves: HotFoldersCollectionItem on the console's refresh.
 TEST_F(HotFolderList, isReadAnewByTheConsolesRefresh)
 {
     openNode();
@@ -110,6 +114,7 @@ TEST_F(HotFolderList, showsTheSameInEveryViewAfterARefreshInOne)
 }
 
 // No console asks a row for it.
+// Proves: a hot folder has a view of its own, which no console asks a row for.
 TEST_F(HotFolderList, hasAViewForEachHotFolderAndNothingInFurtherColumns)
 {
     storeAll({L"Invoices"});

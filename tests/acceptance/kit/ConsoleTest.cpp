@@ -1,5 +1,6 @@
 #include "kit/ConsoleTest.h"
 
+#include "kit/canUnloadNow.h"
 #include "kit/windows.h"
 
 namespace Acceptance
@@ -11,19 +12,9 @@ const CLSID aboutClass{0x5D89C286, 0xC3C4, 0x4239, {0x85, 0xB6, 0x30, 0xE4, 0x7F
 namespace
 {
 
-using CanUnload = HRESULT(STDAPICALLTYPE*)();
-
 void checkUnload()
 {
-    const HMODULE library = GetModuleHandleW(L"TMgmt.dll");
-    if (!library)
-    {
-        return;
-    }
-    const FARPROC function = GetProcAddress(library, "DllCanUnloadNow");
-    ASSERT_NE(nullptr, function);
-    EXPECT_EQ(S_OK, reinterpret_cast<CanUnload>(reinterpret_cast<void*>(function))())
-        << "something of TMgmt.dll is still referenced";
+    EXPECT_EQ(S_OK, canUnloadNow()) << "something of TMgmt.dll is still referenced";
     Console::Host::freeUnusedLibraries();
     EXPECT_EQ(nullptr, GetModuleHandleW(L"TMgmt.dll")) << "the library stays loaded";
 }

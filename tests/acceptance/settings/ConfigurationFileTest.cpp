@@ -1,4 +1,7 @@
+#include "kit/ImportSpy.h"
 #include "settings/SettingsTest.h"
+
+#include <wrl/client.h>
 
 namespace Acceptance
 {
@@ -173,6 +176,23 @@ TEST_F(ConfigurationFile, isReadAndWrittenWhenItIsFiftyMegabytesLong)
     editPort(L"2099");
     expected.replace(expected.find("\"2000\""), 6, "\"2099\"");
     EXPECT_TRUE(expected == bytes()) << "more than the value has changed";
+}
+
+TEST_F(ConfigurationFile, isReadOnceForAllRowsAndOnceForTheLogFolderWhileTheTreeIsMade)
+{
+    store(L"ServerPort", "2000");
+    open();
+    int reads = 0;
+    ImportSpy<"CreateFileW", decltype(CreateFileW)> files(
+        [&](LPCWSTR path, auto... rest)
+        {
+            reads += std::filesystem::path(path).filename() == L"TSvc.config" ? 1 : 0;
+            return files.callThrough(path, rest...);
+        });
+
+    Microsoft::WRL::ComPtr<IUnknown> another;
+    ASSERT_EQ(S_OK, CoCreateInstance(snapInClass, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(another.GetAddressOf())));
+    EXPECT_EQ(2, reads);
 }
 
 } // namespace

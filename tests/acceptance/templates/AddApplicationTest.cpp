@@ -106,6 +106,7 @@ TEST_F(AddApplication, givesTheBranchAnExpandMarkBeforeItIsExpanded)
     EXPECT_THAT(view().children(branch), ElementsAre(L"Letters"));
 }
 
+// Proves: TemplatesCollection on the console's refresh.
 TEST_F(AddApplication, readsAllApplicationsAnew)
 {
     addApplications({L"Letters"});

@@ -117,6 +117,7 @@ TEST_F(ApplicationTree, expandedTwiceShowsTheChildrenOnceAndCollapsedNone)
 }
 
 // A console may ask about a node until it has let go of it.
+// Proves: TemplatesCollection on the console's refresh.
 TEST_F(ApplicationTree, keepsItsNodesAsLongAsTheConsoleHasThem)
 {
     addApplications({L"Letters"});

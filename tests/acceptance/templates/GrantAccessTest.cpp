@@ -65,6 +65,7 @@ TEST_F(GrantAccess, isPossibleForADisabledAccount)
     EXPECT_THAT(names(), ElementsAre(L"Guest", L"zoe"));
 }
 
+// Proves: an account whose name differs from a listed one in case only is offered.
 TEST_F(GrantAccess, isPossibleForANameThatDiffersFromAListedOneInCaseOnly)
 {
     addUser(L"Adam");

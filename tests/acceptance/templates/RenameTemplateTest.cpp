@@ -57,6 +57,7 @@ TEST_F(RenameTemplate, renamesTheFileAndShowsIt)
     EXPECT_THAT(names(), ElementsAre(L"Users", L"письмо.kvd", L"reminder.kvd"));
 }
 
+// Proves: TemplatePropertyItem on a double-click.
 TEST_F(RenameTemplate, opensByADoubleClickToo)
 {
     openAt(letters);
@@ -123,6 +124,7 @@ TEST_F(RenameTemplate, leavesTheServiceAloneWhereThePreferenceSaysFalse)
     EXPECT_THAT(storedTemplates(L"Letters"), ElementsAre(L"mail.kvd", L"reminder.kvd"));
 }
 
+// Proves: the service is restarted even when the template's name stayed what it was.
 TEST_F(RenameTemplate, restartsTheServiceEvenForTheSameName)
 {
     Registry::setRestartPreference({REG_SZ, L"true"});
@@ -236,9 +238,11 @@ TEST_F(RenameTemplate, toTheSameNameAsksTheLibraryForNothing)
 }
 
 // The menu "&Rename Template..." belongs to no node.
+// Proves: no node has the menu that renames a template, and no node carries out its command.
 TEST_F(RenameTemplate, hasACommandOfItsOwnThatNobodyRuns)
 {
-    EXPECT_FALSE(ModuleResource().words(277, RT_MENU).empty());
+    EXPECT_EQ((std::pair<std::wstring, std::wstring>(L"Rename Template POPUP MENU", L"&Rename Template...")),
+              ModuleResource().menuTexts(277, 1066));
     BareSnapIn snapIn;
     const auto bare = snapIn.makeView();
     const SCOPEDATAITEM node = snapIn.node(letters);

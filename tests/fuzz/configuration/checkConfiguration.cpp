@@ -1,10 +1,10 @@
-#include "checkConfiguration.h"
+// Any bytes as a configuration file: they are refused with an exception that says why, or else keep their entries
+// through saving, adding a key and deleting it again.
 
 #include "ConfigurationDocument.h"
-#include "brimlow/system/Exception.h"
+#include "checks.h"
+#include "rules.h"
 
-#include <cstdio>
-#include <cstdlib>
 #include <utility>
 #include <vector>
 
@@ -15,15 +15,6 @@ namespace
 {
 
 using Entries = std::vector<std::pair<String, String>>;
-
-void require(bool holds, const char* rule)
-{
-    if (!holds)
-    {
-        std::fprintf(stderr, "configuration: %s\n", rule);
-        std::abort();
-    }
-}
 
 Entries entriesOf(const ConfigurationDocument& document)
 {

@@ -76,3 +76,39 @@ openssl dsaparam -out dsa.params 1024 2>/dev/null
 openssl req -x509 -newkey dsa:dsa.params -noenc -keyout dsa.key -out dsa.pem -days 36500 -subj /CN=dsa.example.com 2>/dev/null
 bundle dsa dsa ''
 chmod 644 "$out"/*.p12
+
+# The same in few rounds, which the fuzzer has time for, and with a password a key store.
+few=$out/../few-rounds
+stores=$out/../../../key_store/corpus
+certificates=$out/../../../certificate/corpus
+mkdir -p "$few" "$stores" "$certificates"
+out=$few
+bundle ec ec '' -iter 1
+bundle ec-secret ec secret -iter 2
+bundle ec-plain-mac ec '' -iter 1 -keypbe NONE -certpbe NONE
+bundle rsa rsa '' -iter 1
+bundle ed25519 ed25519 '' -iter 1 -nomac -certpbe AES-256-CBC
+bundle chain chain '' -iter 1 -certfile issuers.pem
+bundle rc2 ec '' -iter 1 -legacy
+bundle 3des ec '' -iter 1 -keypbe PBE-SHA1-3DES -certpbe PBE-SHA1-3DES -macalg sha1
+bundle key-twice ec '' -iter 1 -nomac -certpbe NONE
+chmod 644 "$out"/*.p12
+
+# store NAME FILE PASSWORD: a key store, behind its password in a line of its own.
+store() { { echo "$3"; openssl pkcs12 -export -in "$2.pem" -inkey "$2.key" -passout "pass:$3" -iter 1 "${@:4}"; } >"$stores/$1"; }
+store usual ec store
+store issuers chain store -certfile issuers.pem
+store without-mac ec store -nomac
+store readable ec store -nomac -certpbe NONE
+store empty-password ed25519 '' -nomac -certpbe NONE
+store plain-key ec store -nomac -certpbe NONE -keypbe NONE
+{ echo store; openssl pkcs12 -export -nocerts -inkey ec.key -passout pass:store -iter 1; } >"$stores/waiting-key" 2>/dev/null
+{ echo other; tail -n +2 "$stores/usual"; } >"$stores/other-password"
+
+for name in rsa ec ed25519 root intermediate chain renewed dsa; do
+  openssl x509 -in $name.pem -outform DER -out "$certificates/$name.der"
+done
+openssl req -x509 -key ec.key -out odd.pem -days 36500 -subj $'/CN=first/CN=se\tcond/CN=\u00fc\U1F511' -utf8 -set_serial -255
+openssl x509 -in odd.pem -outform DER -out "$certificates/odd.der"
+openssl req -x509 -key ec.key -out nameless.pem -days 36500 -subj '/O=Brimlow' -set_serial 0
+openssl x509 -in nameless.pem -outform DER -out "$certificates/nameless.der"

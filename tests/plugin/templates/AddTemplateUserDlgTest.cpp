@@ -113,6 +113,7 @@ TEST_F(AddTemplateUserDlgTest, leavesOutWhoIsListed)
     expectOffered({L"adam", L"max", L"Guest", L"zoe"}, {});
 }
 
+// Proves: an account whose name differs from a listed one in case only is offered.
 TEST_F(AddTemplateUserDlgTest, offersANameThatDiffersInCaseOnly)
 {
     addAccounts({L"Adam", L"adam"});

@@ -160,6 +160,7 @@ TEST_F(EditApplicationDlgTest, letsAnApplicationKeepItsName)
 }
 
 // Its own folder has the name, as far as Windows is concerned.
+// Proves: a change of case alone is refused, because the disk has the name already.
 TEST_F(EditApplicationDlgTest, refusesTheOwnNameInAnotherCase)
 {
     makeFolder(L"Invoices");

@@ -87,7 +87,7 @@ TEST_F(EditFileDlgTest, refusesTheNameOfWhatIsInTheFolder)
     expectRefused(L"folder", isTaken);
 }
 
-// The disk does not tell them apart, the comparison with the former name does: kept as is.
+// Proves: a change of case alone is refused, because the disk has the name already.
 TEST_F(EditFileDlgTest, refusesAChangeOfCaseAlone)
 {
     expectRefused(L"Logo.png", isTaken);

@@ -115,7 +115,7 @@ TEST_F(EditResourceDlgTest, takesTheNameThatTheFolderHasAlready)
     expectTaken(L"Images", L"Images");
 }
 
-// The disk does not tell them apart, the comparison with the former name does: kept as is.
+// Proves: a change of case alone is refused, because the disk has the name already.
 TEST_F(EditResourceDlgTest, refusesAChangeOfCaseAlone)
 {
     expectRefused(L"Images", L"images", isTaken);

@@ -122,6 +122,7 @@ TEST_F(EditTemplateDlgTest, letsATemplateKeepItsName)
 }
 
 // Its own file has the name, as far as Windows is concerned.
+// Proves: a change of case alone is refused, because the disk has the name already.
 TEST_F(EditTemplateDlgTest, refusesTheOwnNameInAnotherCase)
 {
     write(serverTemplates(L"Invoices\\letter.kvd"), "");

@@ -28,6 +28,7 @@ std::wstring refused(PropertyKind kind, const wchar_t* text, PropertyRefusal::St
     return refusal->message;
 }
 
+// Proves: only the beginning of a number has to be one, and the text is stored as typed.
 TEST(CheckProperty, keepsARealNumberAsTyped)
 {
     for (const PropertyKind kind : {PropertyKind::points, PropertyKind::percentage})

@@ -25,6 +25,7 @@ TEST(NamesToOffer, leaveOutWhoIsListed)
     EXPECT_THAT(namesToOffer({L"zoe"}, {L"gone"}), ElementsAre(L"Guest", L"zoe"));
 }
 
+// Proves: an account whose name differs from a listed one in case only is offered.
 TEST(NamesToOffer, areComparedToTheLetter)
 {
     EXPECT_THAT(namesToOffer({L"Zoe", L"zoe ", L"zoe"}, {L"zoe", L"GUEST"}), ElementsAre(L"Guest", L"Zoe", L"zoe "));

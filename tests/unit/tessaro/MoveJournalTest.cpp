@@ -172,6 +172,19 @@ TEST_F(MoveJournalTest, ThatIsNoTextIsPassedOver)
     EXPECT_THAT(m_disk.files(), ElementsAre("App/", "App/a.xsl=a"));
 }
 
+// Undoing it would fail for ever, and with it every change.
+TEST_F(MoveJournalTest, ThatMovesAFolderIntoItselfIsPassedOver)
+{
+    for (const char* const inside : {"App\\x", "APP\\x\\y"})
+    {
+        leave(inside, "App");
+        m_application.renameTemplate(m_application.getAt(0), L"b.xsl");
+        EXPECT_FALSE(fs::exists(journal())) << inside;
+        m_application.renameTemplate(m_application.getAt(0), L"a.xsl");
+    }
+    EXPECT_THAT(m_disk.files(), ElementsAre("App/", "App/a.xsl=a"));
+}
+
 // Another program is in the middle of a change: it holds the right to write, and its journal is its own business.
 TEST_F(MoveJournalTest, IsLeftToAProgramThatIsChanging)
 {

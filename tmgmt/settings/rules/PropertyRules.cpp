@@ -22,7 +22,7 @@ PropertyRefusal keep(const wchar_t* message)
     return {message, PropertyRefusal::Style::keep};
 }
 
-// Only the beginning has to be a number; the text is stored as typed.
+// Kept as is: only the beginning of a number has to be one, and the text is stored as typed.
 Checked checkReal(const std::wstring& text)
 {
     const std::optional<double> number = leadingReal(text);

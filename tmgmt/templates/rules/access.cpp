@@ -5,6 +5,7 @@
 namespace TMgmt
 {
 
+// Kept as is: an account whose name differs from a listed one in case only is offered.
 std::vector<Core::String> namesToOffer(const std::vector<Core::String>& accounts,
                                        const std::vector<Core::String>& listed)
 {

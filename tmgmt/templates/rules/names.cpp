@@ -43,6 +43,7 @@ bool isPathTaken(const Core::String& path)
     return FileSystem::fileExists(path) || FileSystem::folderExists(path);
 }
 
+// Kept as is: a change of case alone is refused, because the disk has the name already.
 const wchar_t* faultOfName(const Core::String& name, const Core::String& formerName, const Core::String& folder,
                            const wchar_t* taken, const wchar_t* forbiddenCharacter)
 {

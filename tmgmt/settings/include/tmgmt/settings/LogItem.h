@@ -13,7 +13,7 @@ class LogItem : public Item<LogItem>
   public:
     static constexpr GUID nodeType{0xaff1f810, 0x6492, 0x44b3, {0x96, 0x9a, 0x64, 0x41, 0xb4, 0x4b, 0x4d, 0x77}};
 
-    LogItem(const Core::SmartPtr<FileReport>& report, Core::SmartPtr<CSnapInItem> logFiles);
+    LogItem(const LoadedSettings& settings, Core::SmartPtr<CSnapInItem> logFiles);
 
     HRESULT OnShow(bool selecting, HSCOPEITEM scopeItem, Console& console) override;
     HRESULT OnExpand(bool expanding, HSCOPEITEM handle, Console& console) override;

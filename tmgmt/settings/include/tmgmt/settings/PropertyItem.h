@@ -3,8 +3,8 @@
 #include <optional>
 
 #include "brimlow/system/String.h"
-#include "tmgmt/frame/FileReport.h"
 #include "tmgmt/frame/Item.h"
+#include "tmgmt/settings/LoadedSettings.h"
 #include "tmgmt/settings/rules/PropertyFormat.h"
 
 namespace TMgmt
@@ -18,13 +18,13 @@ class PropertyItem : public Item<PropertyItem>
     static constexpr GUID nodeType{0x5e04c561, 0x3019, 0x11d3, {0x88, 0x56, 0x20, 0x4c, 0x4f, 0x4f, 0x50, 0x20}};
     static constexpr UINT menu = IDM_PROPERTY;
 
-    // key, displayName and description are constants of the group and are not copied. A file that cannot be read is
-    // told to the report, and the default shown.
+    // key, displayName and description are constants of the group and are not copied. The value is that of settings,
+    // which are not needed any more afterwards.
     PropertyItem(const wchar_t* key, const Core::String& defaultValue, PropertyKind kind, const wchar_t* displayName,
-                 const wchar_t* description, Core::SmartPtr<FileReport> report);
+                 const wchar_t* description, const LoadedSettings& settings);
     // An enumeration.
     PropertyItem(const wchar_t* key, const Core::String& defaultValue, PropertyOptions options,
-                 const wchar_t* displayName, const wchar_t* description, Core::SmartPtr<FileReport> report);
+                 const wchar_t* displayName, const wchar_t* description, const LoadedSettings& settings);
 
     // Reloads the value from the server configuration file. Throws Core::Exception, with nothing changed.
     void refresh();
@@ -40,7 +40,7 @@ class PropertyItem : public Item<PropertyItem>
 
   private:
     PropertyItem(const wchar_t* key, const Core::String& defaultValue, PropertyKind kind, PropertyOptions options,
-                 const wchar_t* displayName, const wchar_t* description, Core::SmartPtr<FileReport> report);
+                 const wchar_t* displayName, const wchar_t* description, const LoadedSettings& settings);
 
     void show(const std::optional<Core::String>& stored);
     INT_PTR askForValue(Core::String& value, bool& restart);
