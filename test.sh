@@ -65,6 +65,7 @@ verdict build-windows ./build.sh windows-x64
 echo 'Checking the sources'
 verdict lint tools/lint.sh
 verdict bitmaps python3 tools/check-bitmaps.py
+verdict behaviour python3 tools/behaviour.py --check
 
 echo 'Testing natively, under the address and undefined-behaviour sanitizers'
 tests UnitTests-native 900 out/native/UnitTests
