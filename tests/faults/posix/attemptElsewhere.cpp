@@ -8,6 +8,7 @@
 
 // Each process copies the tables of this one's memory: there shall be little. What is freed may be used again soon, and
 // nobody waits long for it.
+// NOLINTNEXTLINE(bugprone-reserved-identifier): the sanitizer's own name
 extern "C" const char* __asan_default_options()
 {
     return "quarantine_size_mb=1:thread_local_quarantine_size_kb=16:malloc_context_size=2";
