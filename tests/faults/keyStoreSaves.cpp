@@ -70,7 +70,7 @@ KeyStore readyMade()
 {
     KeyStore store{Security::Secret()};
     const Security::Secret none;
-    Security::Pkcs12Import(corpusContent(L"smallest"), none).into(store);
+    Security::Pkcs12Import(corpusContent(L"rsa"), none).into(store);
     return store;
 }
 

@@ -19,9 +19,10 @@ fs::path Machine::newPlace()
 
 void Machine::age(const fs::path& path)
 {
+    constexpr time_t twoHours = 2L * 3600;
     struct stat status = {};
     stat(path.c_str(), &status);
     const timespec times[] = {{.tv_sec = 0, .tv_nsec = UTIME_OMIT},
-                              {.tv_sec = status.st_mtime - 2 * 3600, .tv_nsec = 0}};
+                              {.tv_sec = status.st_mtime - twoHours, .tv_nsec = 0}};
     utimensat(AT_FDCWD, path.c_str(), times, 0);
 }
