@@ -56,9 +56,12 @@ for target in "${targets[@]}"; do
   grep -h -E 'Broken:|runtime error:|ERROR:' "$build/$target".*.log || true
 
   if [ "$keep" ]; then
-    # What reaches other places in the code, however often it passes there.
+    # What reaches places in the code that the seeds do not, however often it passes there.
     merged=$(mktemp -d)
+    cp -r "$corpus" "$merged/seeds"
+    rm -rf "$merged/seeds/found"
     "$build/Fuzzer" -merge=1 -use_counters=0 "$merged" "$corpus" "$found" >"$build/$target.merge" 2>&1
+    rm -r "$merged/seeds"
     python3 tools/robustness.py keep "$corpus" "$merged"
     rm -r "$merged"
   fi

@@ -65,6 +65,7 @@ enter_wine() {
 sources_lane() {
   check lint nice tools/lint.sh
   check bitmaps python3 tools/check-bitmaps.py
+  check behaviour python3 tools/behaviour.py --check
 }
 
 native_lane() {

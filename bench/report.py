@@ -14,7 +14,7 @@ REASONS = [
     ('size of TMgmt.dll', 0, 'SQLite and OpenSSL are in it, so that it needs nothing but what Windows has.'),
     ('TMgmt.dll into memory', 0, 'the runtimes in it start and end, and the system libraries that only it uses come '
      'along; the floor only maps it. Once a console.'),
-    ('^Start: load', 0, 'a constant: sixty nodes, their pictures, and the files that are looked for; the floor has '
+    ('^Start: load', 0, 'a constant: the nodes, their pictures, and the files that are looked for; the floor has '
      'empty pictures and looks for nothing. Once a console.'),
     ('^Start: with', 0, 'the same constant; and each entry becomes a node (an application three), which the console '
      'may name at any time.'),
@@ -24,6 +24,7 @@ REASONS = [
     (': (show|refresh)', 10000, 'a node is made for each row, where the floor has texts only: a microsecond a row.'),
     (': (add|edit|rename|grant) one', 0, "the editor fills its controls and checks what is entered; the floor's does "
      'not. And the list is made anew, as by show.'),
+    (': delete all$', 10000, 'the system deletes a file the slower the more there are in its folder, on both sides.'),
     (': (delete|revoke) one', 10000, 'the list is made anew, as by show.'),
 ]
 

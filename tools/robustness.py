@@ -58,14 +58,15 @@ def record(target, coverage, logs):
     def numbers(pattern):
         return [[int(number) for number in re.findall(pattern, text)] for text in texts]
 
-    lines = json.loads(pathlib.Path(coverage).read_text())['data'][0]['totals']['lines']
+    counted = pathlib.Path(coverage)
+    lines = json.loads(counted.read_text())['data'][0]['totals']['lines'] if counted.exists() else None
     values = {
         'date': datetime.datetime.now(datetime.timezone.utc).date().isoformat(),
         'executions': sum(each[-1] for each in numbers(r'stat::number_of_executed_units: *(\d+)')),
         'rate': sum(each[-1] for each in numbers(r'stat::average_exec_per_sec: *(\d+)')),
         'edges': max(each[-1] for each in numbers(r' cov: (\d+)')),
         'features': max(each[-1] for each in numbers(r' ft: (\d+)')),
-        'lines': f"{lines['covered']} of {lines['count']}",
+        'lines': f"{lines['covered']} of {lines['count']}" if lines else 'not counted',
     }
     (FUZZ / target / 'last-run').write_text(''.join(f'{name} {value}\n' for name, value in values.items()))
 

@@ -82,5 +82,12 @@ for field in {300..308}; do
 done
 picture wizard-certificate-request-file "${install[@]}" --press 310 --press 12324 --press 12324 "${subject[@]}" --press 12324
 picture wizard-certificate-file "${install[@]}" --press 310 --press 12324 --press 296 --press 12324
+# A file that does not open without a password, which is what the wizard asks for then.
+secret=$WINEPREFIX/drive_c/secret.p12
+openssl req -x509 -newkey rsa:2048 -nodes -subj /CN=server.example -keyout "$secret.key" -out "$secret.cer" 2>/dev/null
+openssl pkcs12 -export -inkey "$secret.key" -in "$secret.cer" -passout pass:secret -out "$secret"
+picture dialog-enter-password "${install[@]}" --press 310 --press 12324 --press 296 --press 12324 \
+  --enter '299=C:\secret.p12' --press 12325
+rm "$secret" "$secret.key" "$secret.cer"
 picture dialog-edit-log-level --select 'Log' --row 'Log Level' --command 1000
 [ -z "$own_display" ] || stop_wine

@@ -17,7 +17,7 @@ namespace
 
 X509Ptr copyOf(X509& certificate)
 {
-    return X509Ptr(check(X509_dup(&certificate), L"A certificate cannot be copied"));
+    return X509Ptr(checkMemory(X509_dup(&certificate)));
 }
 
 std::vector<X509Ptr> copiesOf(const std::vector<X509*>& certificates)

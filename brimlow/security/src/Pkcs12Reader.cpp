@@ -30,8 +30,8 @@ bool wasUnsupported()
 
 Pkcs8Ptr copyOf(const PKCS8_PRIV_KEY_INFO& key)
 {
-    return Pkcs8Ptr(static_cast<PKCS8_PRIV_KEY_INFO*>(
-        check(ASN1_item_dup(ASN1_ITEM_rptr(PKCS8_PRIV_KEY_INFO), &key), L"A private key cannot be copied")));
+    return Pkcs8Ptr(
+        static_cast<PKCS8_PRIV_KEY_INFO*>(checkMemory(ASN1_item_dup(ASN1_ITEM_rptr(PKCS8_PRIV_KEY_INFO), &key))));
 }
 
 std::string localKeyIdOf(const PKCS12_SAFEBAG* bag)

@@ -19,8 +19,6 @@ namespace
 
 using Core::String;
 
-constexpr wchar_t subjectFailure[] = L"The subject of a certificate cannot be made";
-
 struct Field
 {
     const String& (CertificateInfo::*value)() const noexcept;
@@ -133,14 +131,13 @@ std::string valueOf(const CertificateInfo& info, const Field& field)
 
 NamePtr makeName(const CertificateInfo& info)
 {
-    NamePtr name(check(X509_NAME_new(), subjectFailure));
+    NamePtr name(checkMemory(X509_NAME_new()));
     for (const Field& field : fields)
     {
         const std::string value = valueOf(info, field);
-        check(X509_NAME_add_entry_by_NID(name.get(), field.nid, field.type,
-                                         reinterpret_cast<const unsigned char*>(value.data()),
-                                         static_cast<int>(value.size()), -1, 0),
-              subjectFailure);
+        checkMemory(X509_NAME_add_entry_by_NID(name.get(), field.nid, field.type,
+                                               reinterpret_cast<const unsigned char*>(value.data()),
+                                               static_cast<int>(value.size()), -1, 0));
     }
     return name;
 }
@@ -148,18 +145,18 @@ NamePtr makeName(const CertificateInfo& info)
 // What programs compare with the address that they connect to; they do not look at the common name.
 GeneralNamesPtr makeAlternativeNames(const std::string& commonName)
 {
-    GeneralNamesPtr names(check(GENERAL_NAMES_new(), subjectFailure));
-    GENERAL_NAME* name = check(GENERAL_NAME_new(), subjectFailure);
-    check(sk_GENERAL_NAME_push(names.get(), name), subjectFailure);
+    GeneralNamesPtr names(checkMemory(GENERAL_NAMES_new()));
+    GENERAL_NAME* name = checkMemory(GENERAL_NAME_new());
+    checkMemory(sk_GENERAL_NAME_push(names.get(), name));
     if (ASN1_OCTET_STRING* address = a2i_IPADDRESS(commonName.c_str()))
     {
         GENERAL_NAME_set0_value(name, GEN_IPADD, address);
         return names;
     }
     ERR_clear_error();
-    ASN1_IA5STRING* text = check(ASN1_IA5STRING_new(), subjectFailure);
+    ASN1_IA5STRING* text = checkMemory(ASN1_IA5STRING_new());
     GENERAL_NAME_set0_value(name, GEN_DNS, text);
-    check(ASN1_STRING_set(text, commonName.data(), static_cast<int>(commonName.size())), subjectFailure);
+    checkMemory(ASN1_STRING_set(text, commonName.data(), static_cast<int>(commonName.size())));
     return names;
 }
 
@@ -168,24 +165,24 @@ void add(ExtensionsPtr& extensions, int nid, void* value, bool critical)
     auto* list = extensions.release();
     const int added = X509V3_add1_i2d(&list, nid, value, critical ? 1 : 0, X509V3_ADD_APPEND);
     extensions.reset(list);
-    check(added, subjectFailure);
+    checkMemory(added);
 }
 
 ExtensionsPtr makeExtensions(const std::string& commonName)
 {
     ExtensionsPtr extensions;
 
-    const Owned<BASIC_CONSTRAINTS, BASIC_CONSTRAINTS_free> noAuthority(check(BASIC_CONSTRAINTS_new(), subjectFailure));
+    const Owned<BASIC_CONSTRAINTS, BASIC_CONSTRAINTS_free> noAuthority(checkMemory(BASIC_CONSTRAINTS_new()));
     add(extensions, NID_basic_constraints, noAuthority.get(), true);
 
     // Bits count from the left: digitalSignature is 0, keyEncipherment 2.
-    const Owned<ASN1_BIT_STRING, ASN1_BIT_STRING_free> keyUsage(check(ASN1_BIT_STRING_new(), subjectFailure));
-    check(ASN1_BIT_STRING_set_bit(keyUsage.get(), 0, 1), subjectFailure);
-    check(ASN1_BIT_STRING_set_bit(keyUsage.get(), 2, 1), subjectFailure);
+    const Owned<ASN1_BIT_STRING, ASN1_BIT_STRING_free> keyUsage(checkMemory(ASN1_BIT_STRING_new()));
+    checkMemory(ASN1_BIT_STRING_set_bit(keyUsage.get(), 0, 1));
+    checkMemory(ASN1_BIT_STRING_set_bit(keyUsage.get(), 2, 1));
     add(extensions, NID_key_usage, keyUsage.get(), true);
 
-    const Owned<EXTENDED_KEY_USAGE, EXTENDED_KEY_USAGE_free> purposes(check(EXTENDED_KEY_USAGE_new(), subjectFailure));
-    check(sk_ASN1_OBJECT_push(purposes.get(), OBJ_nid2obj(NID_server_auth)), subjectFailure);
+    const Owned<EXTENDED_KEY_USAGE, EXTENDED_KEY_USAGE_free> purposes(checkMemory(EXTENDED_KEY_USAGE_new()));
+    checkMemory(sk_ASN1_OBJECT_push(purposes.get(), OBJ_nid2obj(NID_server_auth)));
     add(extensions, NID_ext_key_usage, purposes.get(), false);
 
     add(extensions, NID_subject_alt_name, makeAlternativeNames(commonName).get(), false);

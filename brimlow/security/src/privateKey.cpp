@@ -48,8 +48,7 @@ KeyPtr decryptKey(const X509_SIG& encrypted, const Secret& password)
 
 EncryptedPkcs8Ptr copyOf(const X509_SIG& encrypted)
 {
-    return EncryptedPkcs8Ptr(static_cast<X509_SIG*>(
-        check(ASN1_item_dup(ASN1_ITEM_rptr(X509_SIG), &encrypted), L"A private key cannot be copied")));
+    return EncryptedPkcs8Ptr(static_cast<X509_SIG*>(checkMemory(ASN1_item_dup(ASN1_ITEM_rptr(X509_SIG), &encrypted))));
 }
 
 KeyPtr readKey(const PKCS8_PRIV_KEY_INFO& plain)

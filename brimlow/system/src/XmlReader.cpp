@@ -151,8 +151,6 @@ class XmlReader
             return L"the comment is not closed.";
         case pugi::status_bad_cdata:
             return L"the CDATA section is not closed.";
-        case pugi::status_bad_pcdata:
-            return L"the text is not closed.";
         case pugi::status_bad_start_element:
             return L"the start tag is malformed.";
         case pugi::status_bad_attribute:

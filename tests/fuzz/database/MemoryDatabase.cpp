@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <functional>
 #include <random>
+#include <stdexcept>
 
 namespace
 {
@@ -58,7 +59,10 @@ MemoryDatabase::MemoryDatabase(std::string_view content, const char* name)
     : m_content(content), m_path(pathOf(name)), m_formerDefault(sqlite3_vfs_find(nullptr))
 {
     sqlite3_vfs* const memory = sqlite3_vfs_find("memdb");
-    require(memory && sqlite3_vfs_register(memory, 1) == SQLITE_OK, "databases can be in memory");
+    if (!memory || sqlite3_vfs_register(memory, 1) != SQLITE_OK)
+    {
+        throw std::runtime_error("SQLite keeps no databases in memory");
+    }
     m_file = std::make_unique<std::byte[]>(static_cast<std::size_t>(memory->szOsFile));
     int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_MAIN_DB;
     require(memory->xOpen(memory, m_path.c_str(), file(), flags, &flags) == SQLITE_OK &&

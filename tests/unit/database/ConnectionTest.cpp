@@ -143,9 +143,10 @@ TEST_F(ConnectionTest, UpgradesAnOlderDatabaseOnce)
         EXPECT_TRUE(row.step());
         EXPECT_EQ(5, row.getInt(0));
     }
-    EXPECT_EQ(sentence(L"was written by a newer version of the product (format 3, and not 1). Please use the newer "
-                       L"version."),
-              refusalToOpen());
+    EXPECT_EQ(
+        L"The database \"" + m_path +
+            L"\" was written by a newer version of the product (format 3, and not 1). Please use the newer version.",
+        refusalToOpen());
 }
 
 TEST_F(ConnectionTest, AnUpgradeThatFailsLeavesTheDatabaseAsItWas)
@@ -203,7 +204,7 @@ TEST_F(ConnectionTest, RefusesToChangeAReadOnlyDatabaseButReadsIt)
     FaultyDisk disk;
     disk.setReadOnly(true);
     EXPECT_EQ(std::vector{1}, numbers());
-    EXPECT_EQ(sentence(L"cannot be changed: it is read-only."), refusalToChange());
+    EXPECT_EQ(L"The database \"" + m_path + L"\" cannot be changed: it is read-only.", refusalToChange());
 }
 
 TEST_F(ConnectionTest, SaysWhyAFileCannotBeOpened)
@@ -214,7 +215,7 @@ TEST_F(ConnectionTest, SaysWhyAFileCannotBeOpened)
 #else
     const Core::String reason = Core::describeSystemError(EISDIR);
 #endif
-    EXPECT_EQ(sentence(L"cannot be opened: ") + reason + L".", refusalToOpen());
+    EXPECT_EQ(L"The database \"" + m_path + L"\" cannot be opened: " + reason + L".", refusalToOpen());
 }
 
 TEST_F(ConnectionTest, RefusesToReadWhileAnotherProgramWritesItDown)
@@ -278,6 +279,15 @@ TEST_F(ConnectionTest, SaysThatTheDiskIsFull)
     disk.failAt(1, FaultyDisk::Fault::full);
     EXPECT_EQ(sentence(L"cannot be changed: the disk is full."), refusalToChange());
     disk.failAt(0, FaultyDisk::Fault::full);
+    EXPECT_EQ(std::vector{1}, numbers());
+}
+
+TEST_F(ConnectionTest, SaysThatTheDiskFails)
+{
+    makeWithNumber(1);
+    FaultyDisk disk;
+    disk.failAt(1, FaultyDisk::Fault::error);
+    EXPECT_TRUE(refusalToChange().startsWith(L"The database \"" + m_path + L"\" cannot be read or written: "));
     EXPECT_EQ(std::vector{1}, numbers());
 }
 

@@ -233,6 +233,19 @@ TEST_F(ImportTest, AFileThatIsMissingOrAFolderIsNamed)
     EXPECT_THAT(stored(), IsEmpty());
 }
 
+TEST_F(ImportTest, AFileWhoseContentIsNoneIsDamaged)
+{
+    std::string content = corpusContent(L"plain-without-mac");
+    // Behind the identifier of data, and two marks with their lengths, begins the list of what is inside.
+    const std::size_t list = content.find("\x06\x09\x2A\x86\x48\x86\xF7\x0D\x01\x07\x01") + 11 + 8;
+    ASSERT_EQ('\x30', content.at(list));
+    content.at(list) = '\x31';
+    m_folder.write(L"damaged.p12", content);
+    EXPECT_EQ(L"The file \"" + m_folder.path(L"damaged.p12") + L"\" is damaged. Please have it made or copied again.",
+              refusal([&] { m_store->importPKCS12(m_folder.path(L"damaged.p12")); }));
+    EXPECT_THAT(stored(), IsEmpty());
+}
+
 // The file with another number of rounds in its first, second, … part.
 std::string withRounds(const wchar_t* name, std::size_t part, unsigned rounds)
 {

@@ -7,6 +7,7 @@
 #include "LockFile.h"
 #include "Pkcs12Import.h"
 #include "describe.h"
+#include "passwordProtection.h"
 
 #include "brimlow/system/Exception.h"
 #include "brimlow/system/Process.h"
@@ -105,6 +106,23 @@ TEST_F(KeyStoreFileTest, KeepsItsPasswordBesideIt)
     EXPECT_EQ(password, m_folder.read(L"a.p12.password"));
     EXPECT_THAT(names(), ElementsAre(L"ec.example.com", L"rsa.example.com"));
 }
+
+TEST_F(KeyStoreFileTest, ALockThatCannotBeOpenedIsNamed)
+{
+    EXPECT_TRUE(refusal([this] { const Security::LockFile lock(m_path); })
+                    .startsWith(L"The file \"" + m_path + L"\" cannot be opened: "));
+}
+
+#ifdef _WIN32
+TEST_F(KeyStoreFileTest, WithThePasswordOfAnotherMachineItIsRefusedAndNeverOverwritten)
+{
+    add(L"ec");
+    m_folder.write(L"a.p12.password", "not what Windows encrypted");
+    expectRefusal(L"The key store's password file \"" + m_path + L".password\" cannot be used on this machine. " +
+                  refusal([] { Security::unprotect("not what Windows encrypted"); }) +
+                  L" Please restore a backup of this machine.");
+}
+#endif
 
 TEST_F(KeyStoreFileTest, ADamagedOneIsRefusedAndNeverOverwritten)
 {

@@ -69,7 +69,7 @@ class SubjectText : public testing::TestWithParam<Field>
     {
         return refusal([&] { Subject subject(infoWith(value)); });
     }
-    String quoted() const { return L"\"" + String(field().label) + L"\""; }
+    String label() const { return field().label; }
 };
 
 INSTANTIATE_TEST_SUITE_P(Fields, SubjectText, testing::ValuesIn(texts));
@@ -87,8 +87,8 @@ TEST_P(SubjectText, MayBeOfAnyScriptUnlessItIsAnAddressOfTheNet)
     const wchar_t value[] = L"Z\u00FCrich \u041C\u043E\u0441\u043A\u0432\u0430 \u6771\u4EAC \U0001F511";
     if (field().asciiOnly)
     {
-        EXPECT_EQ(quoted() +
-                      L" may hold only letters from A to Z, digits and signs of ASCII. Please write it in these.",
+        EXPECT_EQ(L"\"" + label() +
+                      L"\" may hold only letters from A to Z, digits and signs of ASCII. Please write it in these.",
                   refusalOf(value));
     }
     else
@@ -102,7 +102,7 @@ TEST_P(SubjectText, HasALargestLengthInCharacters)
 {
     const auto length = static_cast<std::size_t>(field().maxLength);
     EXPECT_EQ(L"accepted", refusalOf(std::wstring(length, L'x')));
-    EXPECT_EQ(quoted() + L" is too long: a certificate holds " + String(std::to_wstring(length)) +
+    EXPECT_EQ(L"\"" + label() + L"\" is too long: a certificate holds " + String(std::to_wstring(length)) +
                   L" characters of it, and these are " + String(std::to_wstring(length + 1)) + L".",
               refusalOf(std::wstring(length + 1, L'x')));
     if (!field().asciiOnly)
@@ -119,7 +119,7 @@ TEST_P(SubjectText, HasALargestLengthInCharacters)
 
 TEST_P(SubjectText, MustNotBeEmpty)
 {
-    EXPECT_EQ(quoted() + L" is empty. Please enter it.", refusalOf(L""));
+    EXPECT_EQ(L"\"" + label() + L"\" is empty. Please enter it.", refusalOf(L""));
 }
 
 TEST_P(SubjectText, MustNotHoldWhatCannotBePrinted)
@@ -129,7 +129,8 @@ TEST_P(SubjectText, MustNotHoldWhatCannotBePrinted)
           String(u"\xDC00"
                  u"a")})
     {
-        EXPECT_EQ(quoted() + L" holds a character that cannot be printed. Please remove it.", refusalOf(value));
+        EXPECT_EQ(L"\"" + label() + L"\" holds a character that cannot be printed. Please remove it.",
+                  refusalOf(value));
     }
 }
 

@@ -44,6 +44,18 @@ void expectNoFault(const TemporaryFolder& folder)
     EXPECT_EQ(newContent, folder.read(L"a.config"));
 }
 
+// What is said when that call of a write fails: create, write, flush, close, replace.
+String sentenceOfCall(const String& path, int call)
+{
+    const Core::IOException exception(
+        call == 2   ? L"The file \"" + path + L"\" cannot be saved, a file beside it cannot be made"
+        : call == 3 ? L"The file \"" + path + L"\" cannot be saved, its new content cannot be written"
+        : call <= 5 ? L"The file \"" + path + L"\" cannot be saved, its new content cannot be brought to the disk"
+                    : L"The file \"" + path + L"\" cannot be saved, it cannot be replaced",
+        diskFull);
+    return exception.getMessage();
+}
+
 // Writes with call number k failing, for every k, until a write meets no failure. 'expectAfter' looks at the folder
 // after a failure.
 template <class Prepare, class ExpectAfter>
@@ -63,8 +75,7 @@ int failEveryCall(Prepare prepare, ExpectAfter expectAfter)
         catch (const Core::IOException& exception)
         {
             EXPECT_EQ(diskFull, exception.getSystemError());
-            EXPECT_NE(std::wstring::npos, exception.getMessage().str().find(folder.path(L"a.config").str()))
-                << exception.what();
+            EXPECT_EQ(sentenceOfCall(folder.path(L"a.config"), failing), exception.getMessage());
             expectAfter(folder, failing);
         }
         if (faults.calls() < failing)
@@ -107,6 +118,9 @@ TEST(AtomicFileFaults, AFailureToMakeAFolderNamesTheFolder)
     catch (const Core::IOException& exception)
     {
         EXPECT_EQ(diskFull, exception.getSystemError());
+        EXPECT_TRUE(
+            exception.getMessage().startsWith(L"The folder \"" + folder.path(L"Brimlow") + L"\" cannot be made: "))
+            << exception.what();
         EXPECT_THAT(folder.names(), IsEmpty());
     }
 }

@@ -2,6 +2,7 @@
 #include "PrintTo.h"
 #include "TemporaryFolder.h"
 #include "brimlow/system/Exception.h"
+#include "refusal.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -105,8 +106,11 @@ TEST(AtomicFile, RefusesAFolderAndSaysSo)
 {
     const TemporaryFolder folder;
     fs::create_directory(folder.folder() / L"a.config");
-    EXPECT_THROW(AtomicFile::write(folder.path(L"a.config"), "new"), Core::IOException);
-    EXPECT_THROW(AtomicFile::read(folder.path(L"a.config")), Core::IOException);
+    EXPECT_EQ(L"The file \"" + folder.path(L"a.config") +
+                  L"\" cannot be saved, because there is a folder of that name.",
+              refusal([&] { AtomicFile::write(folder.path(L"a.config"), "new"); }));
+    EXPECT_TRUE(refusal([&] { AtomicFile::read(folder.path(L"a.config")); })
+                    .startsWith(L"The file \"" + folder.path(L"a.config") + L"\" cannot be read: "));
     EXPECT_FALSE(AtomicFile::exists(folder.path(L"a.config")));
     EXPECT_THAT(folder.names(), ElementsAre(L"a.config"));
 }

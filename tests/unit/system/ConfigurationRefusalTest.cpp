@@ -13,12 +13,14 @@ using Core::String;
 namespace
 {
 
+constexpr wchar_t badReference[] = L"\"&\" must begin one of the references of XML, or be written as \"&amp;\".";
+
 struct Case
 {
     std::string content;
     std::size_t line;
     std::size_t column;
-    const wchar_t* reason; // how it begins
+    const wchar_t* reason;
     // What the XML parser finds is reported to within one character; what we find ourselves, exactly.
     std::size_t tolerance = 0;
 };
@@ -40,9 +42,9 @@ class ConfigurationRefusal : public testing::Test
             const std::size_t column = exception.getTextColumn();
             EXPECT_LE(std::max(column, expected.column) - std::min(column, expected.column), expected.tolerance)
                 << exception.what();
-            const std::wstring start = L"\"" + m_path.str() + L"\", line " + std::to_wstring(expected.line) +
-                                       L", column " + std::to_wstring(column) + L": " + expected.reason;
-            EXPECT_EQ(String(start), String(exception.getMessage().str().substr(0, start.size())));
+            EXPECT_EQ(L"\"" + m_path + L"\", line " + String(std::to_wstring(expected.line)) + L", column " +
+                          String(std::to_wstring(column)) + L": " + expected.reason,
+                      exception.getMessage());
         }
         EXPECT_EQ(expected.content, m_folder.read(L"a.config"));
     }
@@ -53,7 +55,7 @@ class ConfigurationRefusal : public testing::Test
 
 TEST_F(ConfigurationRefusal, DocumentTypeDeclarations)
 {
-    const wchar_t* reason = L"a document type declaration (DOCTYPE) is not allowed";
+    const wchar_t* reason = L"a document type declaration (DOCTYPE) is not allowed in a configuration file. Remove it.";
     const std::string settings =
         "<configuration><appSettings><add key=\"a\" value=\"&x;\"/></appSettings></configuration>";
     expectRefused({"<!DOCTYPE configuration>\n<configuration/>", 1, 1, reason});
@@ -86,14 +88,20 @@ TEST_F(ConfigurationRefusal, AnotherRootElementNamesIt)
 TEST_F(ConfigurationRefusal, WhatTheParserCannotRead)
 {
     const Case cases[] = {
-        {"<configuration>\n", 1, 17, L"the end tag does not match", 1},
-        {"<configuration>\n <a>\n</configuration>", 3, 3, L"the end tag does not match", 1},
+        {"<configuration>\n", 1, 17, L"the end tag does not match the start tag, or is missing.", 1},
+        {"<configuration>\n <a>\n</configuration>", 3, 3, L"the end tag does not match the start tag, or is missing.",
+         1},
         {"<configuration", 1, 15, L"the start tag is malformed.", 1},
         {"<configuration/", 1, 16, L"the start tag is malformed.", 1},
         {"<configuration a=1/>", 1, 18, L"the attribute is malformed.", 1},
         {"<configuration a/>", 1, 17, L"the attribute is malformed.", 1},
         {"<configuration a=\"1/>", 1, 19, L"the attribute is malformed.", 1},
         {"<configuration a=\"1\"b=\"2\"/>", 1, 21, L"the attribute is malformed.", 1},
+        {"<configuration></configuration", 1, 31, L"the end tag is malformed.", 1},
+        {"<configuration>\n<!-- a", 2, 7, L"the comment is not closed.", 1},
+        {"<configuration>\n<![CDATA[a", 2, 11, L"the CDATA section is not closed.", 1},
+        {"<?xml version=\"1.0\"", 1, 20, L"the processing instruction or declaration is malformed.", 1},
+        {"<configuration><1/></configuration>", 1, 17, L"this is not XML.", 1},
     };
     for (const Case& expected : cases)
     {
@@ -112,22 +120,22 @@ TEST_F(ConfigurationRefusal, WhatTheParserWouldLetPass)
         {"<configuration/>\n<![CDATA[x]]>", 2, 10, L"there is text outside the root element."},
         {"<configuration/>\n<configuration/>", 2, 2, L"there is a second root element."},
         {"<configuration a=\"1\" a=\"2\"/>", 1, 2, L"the attribute \"a\" occurs twice in one tag."},
-        {"<configuration\na=\"x<y\"/>", 2, 5, L"the character \"<\" must be written as"},
-        {"<configuration\na='&'/>", 2, 4, L"\"&\" must begin one of the references"},
-        {"<configuration>a&b;</configuration>", 1, 17, L"\"&\" must begin one of the references"},
-        {"<configuration>&#0;</configuration>", 1, 16, L"\"&\" must begin one of the references"},
-        {"<configuration>&#1;</configuration>", 1, 16, L"\"&\" must begin one of the references"},
-        {"<configuration>&#xD83D;&#xDE00;</configuration>", 1, 16, L"\"&\" must begin one of the references"},
-        {"<configuration>&#xFFFE;</configuration>", 1, 16, L"\"&\" must begin one of the references"},
-        {"<configuration>&#x110000;</configuration>", 1, 16, L"\"&\" must begin one of the references"},
-        {"<configuration>&#x100000041;</configuration>", 1, 16, L"\"&\" must begin one of the references"},
-        {"<configuration>&#;&#x;</configuration>", 1, 16, L"\"&\" must begin one of the references"},
-        {"<configuration>&lt</configuration>", 1, 16, L"\"&\" must begin one of the references"},
-        {"<configuration><!-- a -- b --></configuration>", 1, 23, L"a comment must not contain"},
-        {"<configuration><!-- a ---></configuration>", 1, 24, L"a comment must not end"},
+        {"<configuration\na=\"x<y\"/>", 2, 5, L"the character \"<\" must be written as \"&lt;\" in an attribute."},
+        {"<configuration\na='&'/>", 2, 4, badReference},
+        {"<configuration>a&b;</configuration>", 1, 17, badReference},
+        {"<configuration>&#0;</configuration>", 1, 16, badReference},
+        {"<configuration>&#1;</configuration>", 1, 16, badReference},
+        {"<configuration>&#xD83D;&#xDE00;</configuration>", 1, 16, badReference},
+        {"<configuration>&#xFFFE;</configuration>", 1, 16, badReference},
+        {"<configuration>&#x110000;</configuration>", 1, 16, badReference},
+        {"<configuration>&#x100000041;</configuration>", 1, 16, badReference},
+        {"<configuration>&#;&#x;</configuration>", 1, 16, badReference},
+        {"<configuration>&lt</configuration>", 1, 16, badReference},
+        {"<configuration><!-- a -- b --></configuration>", 1, 23, L"a comment must not contain \"--\"."},
+        {"<configuration><!-- a ---></configuration>", 1, 24, L"a comment must not end with \"--->\"."},
         {"\n<?xml version=\"1.0\"?><configuration/>", 2, 3, L"the XML declaration must stand at the very beginning."},
         {"<?xml version=\"1.0\" encoding=\"windows-1252\"?><configuration/>", 1, 31,
-         L"the encoding \"windows-1252\" is not supported."},
+         L"the encoding \"windows-1252\" is not supported. Save the file as UTF-8."},
         {"<configuration>\n\xC3\xA4\xE4</configuration>", 2, 2, L"the file is neither UTF-8 nor UTF-16 here."},
         {std::string("<configuration>\0</configuration>", 32), 1, 16,
          L"there is a character here that XML does not allow."},
@@ -144,7 +152,7 @@ TEST_F(ConfigurationRefusal, WhatTheParserWouldLetPass)
 
 TEST_F(ConfigurationRefusal, ColumnsCountCharacters)
 {
-    expectRefused({"<configuration a=\"\xC3\x84\xF0\x9F\x98\x80\" b='&'/>", 1, 26, L"\"&\" must begin"});
+    expectRefused({"<configuration a=\"\xC3\x84\xF0\x9F\x98\x80\" b='&'/>", 1, 26, badReference});
 }
 
 std::string nested(int depth)

@@ -2,6 +2,7 @@
 #include "PrintTo.h"
 #include "TemporaryFolder.h"
 #include "brimlow/system/Exception.h"
+#include "refusal.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -192,7 +193,9 @@ TEST_F(ConfigurationValues, WhatXmlCannotHoldIsRefusedNamingKeyFileAndCharacter)
                           L"\", because it contains the character " + code + L".",
                       exception.getMessage());
         }
-        EXPECT_THROW(configuration.setValue(text, L"x", m_path), Core::FormatException);
+        EXPECT_EQ(L"The key \"" + String(text) + L"\" cannot be stored in \"" + m_path +
+                      L"\", because it contains the character " + code + L".",
+                  refusal([&] { configuration.setValue(text, L"x", m_path); }));
         EXPECT_THAT(entriesOf(configuration), ElementsAre(std::pair(String(L"Name"), String(L"before"))));
     }
 }

@@ -71,8 +71,9 @@ TEST(Exception, EveryOneIsAnException)
     static_assert(std::is_base_of_v<Core::Exception, Core::IOException>);
     static_assert(std::is_base_of_v<Core::IOException, Core::FileNotFoundException>);
     static_assert(std::is_base_of_v<Core::Exception, Core::FormatException>);
-    EXPECT_FALSE(Core::NullPointerException().getMessage().empty());
-    EXPECT_FALSE(Core::UnreacheableCodeException().getMessage().empty());
+    EXPECT_EQ(L"An object that must be there is missing.", Core::NullPointerException().getMessage());
+    EXPECT_EQ(L"The program came to a place that it should never come to.",
+              Core::UnreacheableCodeException().getMessage());
 }
 
 #ifndef _WIN32

@@ -3,6 +3,7 @@
 #include "TemporaryFolder.h"
 #include "brimlow/system/Exception.h"
 #include "brimlow/system/FileSystem.h"
+#include "refusal.h"
 
 #include <gtest/gtest.h>
 
@@ -85,6 +86,13 @@ TEST(PrivateFile, CannotBeMadeWhereAFileIsInTheWay)
     disk.write(L"a", "");
     EXPECT_THROW(makePrivateFile(combinePath(disk.path(L"a"), L"c.db")), Core::IOException);
     EXPECT_THROW(makePrivateFile(combinePath(disk.path(L"a"), L"b\\c.db")), Core::IOException);
+}
+
+TEST(PrivateFile, CannotBeMadeUnderANameThatNoFileCanHave)
+{
+    const TemporaryFolder disk;
+    const Core::String path = disk.path(std::wstring(300, L'x').c_str());
+    EXPECT_TRUE(refusal([&] { makePrivateFile(path); }).startsWith(L"The file \"" + path + L"\" cannot be made: "));
 }
 
 } // namespace

@@ -236,6 +236,17 @@ TEST_F(ApplicationFaultTest, IsWholeWhicheverOperationOnFilesFails)
         });
 }
 
+TEST_F(ApplicationFaultTest, SaysWhereAFolderCannotBeMade)
+{
+    FaultyFiles files;
+    files.failAt(1, FaultyFiles::Fault::error);
+    ApplicationStore store(TessaroStore::instance(), TessaroStore::machinePlace(), files);
+    ServerApplication application;
+    application.setApplicationPath(m_disk.path(L"New"));
+    EXPECT_TRUE(refusal([&] { store.addApplication(application); })
+                    .startsWith(L"A folder cannot be made in \"" + fromPath(m_disk.folder()) + L"\": "));
+}
+
 TEST_F(ApplicationFaultTest, IsWholeWhicheverOperationOfTheDatabaseFails)
 {
     expectWholeWhicheverFails(

@@ -1,6 +1,7 @@
 #define OPENSSL_SUPPRESS_DEPRECATED
 
 #include "PasswordHash.h"
+#include "NoRandomNumbers.h"
 #include "PrintTo.h"
 #include "brimlow/tessaro/User.h"
 #include "refusal.h"
@@ -8,7 +9,6 @@
 #include <array>
 #include <gtest/gtest.h>
 #include <openssl/evp.h>
-#include <openssl/rand.h>
 #include <span>
 #include <string>
 #include <string_view>
@@ -23,23 +23,6 @@ std::span<const unsigned char> bytes(std::string_view text)
 {
     return {reinterpret_cast<const unsigned char*>(text.data()), text.size()};
 }
-
-// The system's random numbers fail as long as this lives.
-class NoRandomNumbers
-{
-  public:
-    NoRandomNumbers() : m_former(RAND_get_rand_method()) { RAND_set_rand_method(&m_none); }
-    NoRandomNumbers(const NoRandomNumbers&) = delete;
-    NoRandomNumbers& operator=(const NoRandomNumbers&) = delete;
-    ~NoRandomNumbers() { RAND_set_rand_method(m_former); }
-
-  private:
-    static int fail(unsigned char*, int) { return 0; }
-
-    const RAND_METHOD* m_former;
-    const RAND_METHOD m_none{
-        .seed = nullptr, .bytes = &fail, .cleanup = nullptr, .add = nullptr, .pseudorand = &fail, .status = nullptr};
-};
 
 // The vectors of RFC 7914, section 11, of which PBKDF2 with 32 bytes gives the first half.
 TEST(PasswordHashTest, IsPbkdf2WithHmacSha256)
@@ -79,6 +62,12 @@ TEST(PasswordHashTest, HasSixteenBytesOfSaltAndTodaysCost)
 TEST(PasswordHashTest, HasASaltOfItsOwnEachTime)
 {
     EXPECT_NE(PasswordHash(L"secret").text(), PasswordHash(L"secret").text());
+}
+
+TEST(PasswordHashTest, IsRefusedWithoutARound)
+{
+    EXPECT_EQ(L"The password cannot be encoded: the cryptographic library refuses. Please try again.",
+              refusal([] { PasswordHash(L"secret", bytes("salt"), 0); }));
 }
 
 TEST(PasswordHashTest, IsRefusedWithoutRandomNumbers)

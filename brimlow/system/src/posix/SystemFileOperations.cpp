@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <chrono>
+#include <cstdio>
 #include <ctime>
 #include <dirent.h>
 #include <fcntl.h>
@@ -124,12 +125,9 @@ class SystemFileOperations final : public FileOperations
 
     SystemError move(const String& from, const String& to) override
     {
-        // Unlike rename, link refuses a name that is taken.
-        if (const SystemError error = resultOf(link(systemPath(from).c_str(), systemPath(to).c_str())))
-        {
-            return error;
-        }
-        return remove(from);
+        // In one step, and unlike rename this refuses a name that is taken.
+        return resultOf(
+            renameat2(AT_FDCWD, systemPath(from).c_str(), AT_FDCWD, systemPath(to).c_str(), RENAME_NOREPLACE));
     }
 
     SystemError remove(const String& path) override { return resultOf(unlink(systemPath(path).c_str())); }

@@ -132,13 +132,14 @@ class SystemFileTree final : public FileTree
     {
         const fs::file_time_type anHourAgo = fs::file_time_type::clock::now() - std::chrono::hours(1);
         std::error_code ignored;
-        for (const fs::directory_entry& entry : fs::directory_iterator(systemPath(folder), ignored))
+        for (fs::directory_iterator entry(systemPath(folder), ignored); entry != fs::directory_iterator();
+             entry.increment(ignored))
         {
             std::error_code unknown;
-            if (isMeant(String::fromUtf8(entry.path().filename().native())) &&
-                entry.last_write_time(unknown) < anHourAgo && !unknown)
+            if (isMeant(String::fromUtf8(entry->path().filename().native())) &&
+                entry->last_write_time(unknown) < anHourAgo && !unknown)
             {
-                fs::remove_all(entry, ignored);
+                fs::remove_all(*entry, ignored);
             }
         }
     }
