@@ -106,7 +106,7 @@ class Product:
             self._add("Exports", f"`{name}`", path, 1, ("exact", name))
 
     def _read_nodes(self):
-        """Classes with a node type, and which of the notifications each handles itself or through its base."""
+        """Classes with a node type, and which of the notifications each handles itself or through its bases."""
         bases, handled, types = {}, {}, {}
         for path, source in self._sources.items():
             if path.suffix != ".h" or "tmgmt" not in path.parts:
@@ -127,8 +127,11 @@ class Product:
             self._add("Nodes", f"`{name}`: " + (f"\"{title}\"" if title else "named after what it stands for"), path,
                       definition.tokens[0].line, ("guid", guid),
                       *([("matches", rf"(.*\\)?{re.escape(title)}")] if title else []))
-            for handler in sorted(handled[name] | handled.get(next(iter(bases[name]), ""), set())):
+            for handler in sorted(self._handled(name, bases, handled)):
                 self._add("What nodes do", f"`{name}` on {HANDLERS[handler]}", path, definition.tokens[0].line)
+
+    def _handled(self, name, bases, handled):
+        return handled[name] | self._handled(bases[name][0], bases, handled) if name in handled else set()
 
     def _display_name(self, header):
         source = self._sources.get(next((path for path in self._sources if path.name == header.stem + ".cpp"), None))
