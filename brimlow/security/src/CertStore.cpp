@@ -85,7 +85,7 @@ void CertStore::exportPKCS12(unsigned index, const Core::String& fileName)
     }
     // What is exported is in the form of a key store with this certificate alone.
     KeyStore exported{Secret()};
-    exported.add(*identity->certificate, *store.decryptKey(*identity), issuers);
+    exported.add(*identity->certificate, *file.decryptKey(store, *identity), issuers);
     writePrivately(fileName, exported.toFile());
 }
 

@@ -97,8 +97,11 @@ const KeyStore::Identity* KeyStore::find(const std::string& fingerprint) const
     return found == m_identities.end() ? nullptr : &*found;
 }
 
-KeyPtr KeyStore::decryptKey(const Identity& identity) const
+KeyPtr KeyStore::decryptKey(const Identity& identity, KeyDerivationBudget budget) const
 {
+    const X509_ALGOR* encryption = nullptr;
+    X509_SIG_get0(identity.key.encrypted.get(), &encryption, nullptr);
+    budget.charge(*encryption);
     return Security::decryptKey(*identity.key.encrypted, m_password);
 }
 

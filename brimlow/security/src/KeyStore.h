@@ -44,7 +44,8 @@ class KeyStore
     const std::vector<Identity>& identities() const noexcept { return m_identities; }
     // Null when there is no certificate with that fingerprint.
     const Identity* find(const std::string& fingerprint) const;
-    KeyPtr decryptKey(const Identity& identity) const;
+    // Throws Pkcs12Fault for a key that cannot be decrypted, or not within the budget.
+    KeyPtr decryptKey(const Identity& identity, KeyDerivationBudget budget = KeyDerivationBudget()) const;
 
     // False when there is no certificate with that fingerprint.
     bool remove(const std::string& fingerprint);

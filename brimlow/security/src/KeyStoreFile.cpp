@@ -90,6 +90,18 @@ KeyStore KeyStoreFile::read() const
     return content.empty() ? KeyStore(Secret()) : open(content);
 }
 
+KeyPtr KeyStoreFile::decryptKey(const KeyStore& store, const KeyStore::Identity& identity) const
+{
+    try
+    {
+        return store.decryptKey(identity);
+    }
+    catch (Pkcs12Fault)
+    {
+        refuseDamaged();
+    }
+}
+
 void KeyStoreFile::change(const std::function<void(KeyStore&)>& change) const
 {
     const Lock lock(m_path, m_longestWait);
@@ -114,8 +126,13 @@ KeyStore KeyStoreFile::open(const std::string& content) const
                    L"files from the same backup.",
                    m_path, passwordPath());
         }
-        refuse(L"The key store \"{0}\" is damaged. Please restore it from a backup.", m_path);
+        refuseDamaged();
     }
+}
+
+void KeyStoreFile::refuseDamaged() const
+{
+    refuse(L"The key store \"{0}\" is damaged. Please restore it from a backup.", m_path);
 }
 
 Secret KeyStoreFile::readPassword() const

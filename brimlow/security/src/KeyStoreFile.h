@@ -25,12 +25,15 @@ class KeyStoreFile
 
     // An empty one where there is no file.
     KeyStore read() const;
+    // The key of a certificate in the store that read() gave.
+    KeyPtr decryptKey(const KeyStore& store, const KeyStore::Identity& identity) const;
     // Stores what change made of the key store as it is now. Nothing is stored when change throws.
     void change(const std::function<void(KeyStore&)>& change) const;
 
   private:
     Core::String passwordPath() const { return m_path + L".password"; }
     KeyStore open(const std::string& content) const;
+    [[noreturn]] void refuseDamaged() const;
     Secret readPassword() const;
     Secret readOrMakePassword() const;
 

@@ -311,4 +311,14 @@ TEST_F(KeyStorePath, IsWhereCertificatesAreStored)
     EXPECT_FALSE(fs::exists(toPath(m_usual)));
 }
 
+TEST_F(KeyStoreFileTest, AKeyThatCannotBeDecryptedIsReportedAsDamage)
+{
+    add(L"ec");
+    const KeyStore stored = m_file.read();
+    const KeyStore ofAnotherPassword{Security::Secret(std::string("another"))};
+    EXPECT_TRUE(m_file.decryptKey(stored, stored.identities().front()));
+
+    EXPECT_EQ(m_damaged, refusal([&] { m_file.decryptKey(ofAnotherPassword, stored.identities().front()); }));
+}
+
 } // namespace

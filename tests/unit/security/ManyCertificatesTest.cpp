@@ -51,6 +51,15 @@ TEST(KeyStore, HasAsManyKeysAsItLikesUntilTheyAreAskedFor)
     EXPECT_TRUE(store.decryptKey(store.identities().back()));
 }
 
+TEST(KeyStore, PaysForAKeyWhenItIsAskedFor)
+{
+    const KeyStore store(fileWith(1), password());
+    const KeyStore::Identity& identity = store.identities().front();
+
+    EXPECT_TRUE(store.decryptKey(identity, KeyDerivationBudget(keyRounds)));
+    EXPECT_THROW(store.decryptKey(identity, KeyDerivationBudget(keyRounds - 1)), Pkcs12Fault);
+}
+
 TEST(Pkcs12Reader, PaysForEachKeyWhenItIsAskedFor)
 {
     const Secret secret = password();
