@@ -112,6 +112,11 @@ void show(const KeyStore& store, std::ostream& out)
 
 void showExport(const std::string& content, std::ostream& out)
 {
+    // A private file is made empty before anything is written to it, and counts as none until then.
+    if (content.empty())
+    {
+        return;
+    }
     out << "exported: ";
     if (content == "old")
     {

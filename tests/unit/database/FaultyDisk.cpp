@@ -2,7 +2,6 @@
 
 #include <sqlite3.h>
 
-#include <cstdlib>
 #include <utility>
 
 struct FaultyDisk::Vfs
@@ -16,29 +15,15 @@ struct FaultyDisk::Vfs
     bool readOnly = false;
     std::function<void()> onWait;
 
-    // What becomes of the next operation. partly does the half of it that a crash leaves behind.
-    template <class Partly>
-    int next(bool writes, Partly partly)
+    // What becomes of the next operation.
+    int next(bool writes = false)
     {
         ++operations;
         if (fault == Fault::full && failing && operations >= failing && writes)
         {
             return SQLITE_FULL;
         }
-        if (operations != failing)
-        {
-            return SQLITE_OK;
-        }
-        if (fault == Fault::crash)
-        {
-            partly();
-            std::_Exit(crashStatus);
-        }
-        return fault == Fault::error ? SQLITE_IOERR : SQLITE_OK;
-    }
-    int next()
-    {
-        return next(false, [] {});
+        return operations == failing && fault == Fault::error ? SQLITE_IOERR : SQLITE_OK;
     }
 };
 
@@ -83,9 +68,8 @@ FaultyDisk::FaultyDisk() : m_vfs(std::make_unique<Vfs>())
         };
         all.xWrite = [](sqlite3_file* file, const void* data, int size, sqlite3_int64 at)
         {
-            const auto write = [&](int count) { return realOf(file)->pMethods->xWrite(realOf(file), data, count, at); };
-            const int fault = vfsOf(file).next(true, [&] { write(size / 2); });
-            return fault ? fault : write(size);
+            const int fault = vfsOf(file).next(true);
+            return fault ? fault : realOf(file)->pMethods->xWrite(realOf(file), data, size, at);
         };
         all.xTruncate = [](sqlite3_file* file, sqlite3_int64 size)
         {

@@ -14,11 +14,8 @@ class FaultyDisk
         // This one operation fails.
         error,
         // From this operation on nothing can be written; deleting works.
-        full,
-        // The process ends here, with half of what it was writing on the disk.
-        crash
+        full
     };
-    static constexpr int crashStatus = 77;
 
     FaultyDisk();
     FaultyDisk(const FaultyDisk&) = delete;

@@ -169,37 +169,6 @@ TEST_F(HotFolderStoreTest, IsWholeWheneverTheDiskBecomesFull)
 }
 
 #ifndef _WIN32
-TEST_F(HotFolderStoreTest, IsWholeWheneverTheProgramDies)
-{
-    int crashes = 0;
-    for (bool done = false; !done;)
-    {
-        reset();
-        const pid_t child = fork();
-        ASSERT_GE(child, 0);
-        if (child == 0)
-        {
-            FaultyDisk disk;
-            disk.failAt(crashes + 1, FaultyDisk::Fault::crash);
-            changeAll();
-            std::_Exit(0);
-        }
-        int status = 0;
-        ASSERT_EQ(child, waitpid(child, &status, 0));
-        ASSERT_TRUE(WIFEXITED(status));
-        done = WEXITSTATUS(status) == 0;
-        if (!done)
-        {
-            ASSERT_EQ(FaultyDisk::crashStatus, WEXITSTATUS(status));
-            ++crashes;
-        }
-        EXPECT_THAT(states, testing::Contains(stored())) << crashes;
-        expectSound();
-    }
-    EXPECT_EQ(states[3], stored());
-    EXPECT_LT(20, crashes);
-}
-
 TEST_F(HotFolderStoreTest, LosesNothingWhenTwoProcessesAddAtOnce)
 {
     m_file.busyTimeout = std::chrono::minutes(1);

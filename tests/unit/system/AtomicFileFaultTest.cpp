@@ -10,8 +10,6 @@
 #include <windows.h>
 #else
 #include <cerrno>
-#include <csignal>
-#include <unistd.h>
 #endif
 
 using Core::String;
@@ -192,80 +190,5 @@ TEST(AtomicFileFaults, AReplacementThatStoppedHalfWayForGoodIsTakenBack)
     EXPECT_EQ(oldContent, folder.read(L"a.config"));
     EXPECT_THAT(folder.names(), ElementsAre(L"a.config"));
 }
-
-// Ends the process on the spot, as a power failure would: no destructor, no buffer, no exit handler.
-[[noreturn]] void die()
-{
-#ifdef _WIN32
-    TerminateProcess(GetCurrentProcess(), 42);
-#else
-    _exit(42);
-#endif
-    std::abort();
-}
-
-// Where the writing process dies: before a call, or in the middle of the replacement.
-constexpr int inReplacement = 0;
-constexpr int callsOfAWrite = 7;
-
-void writeAndDie(const String& path, int where)
-{
-    FileFaults faults(
-        [&](int call) -> SystemError
-        {
-            if (call == where)
-            {
-                die();
-            }
-            return 0;
-        });
-    if (where == inReplacement)
-    {
-        faults.replaceBy(
-            [](FileFaults& self, const String& target, const String&, const String& backup) -> SystemError
-            {
-                self.real().move(target, backup);
-                die();
-            });
-    }
-    AtomicFile::write(path, newContent, faults);
-}
-
-// gtest runs the dying statement in a process of its own; on Windows that process runs the test anew up to there, so
-// the folder's name must not change between the two.
-class AtomicFileKill : public testing::TestWithParam<int>
-{
-  protected:
-    AtomicFileKill() : m_folder(std::filesystem::temp_directory_path() / ("tessaro-kill-" + std::to_string(GetParam())))
-    {
-        std::filesystem::remove_all(m_folder);
-        std::filesystem::create_directories(m_folder);
-    }
-    ~AtomicFileKill() override
-    {
-        std::error_code ignored;
-        std::filesystem::remove_all(m_folder, ignored);
-    }
-
-    String path() const { return fromPath(m_folder / "a.config"); }
-
-    std::filesystem::path m_folder;
-};
-
-TEST_P(AtomicFileKill, LeavesTheOldFileOrTheNewOne)
-{
-    AtomicFile::write(path(), oldContent);
-    EXPECT_EXIT(writeAndDie(path(), GetParam()), testing::ExitedWithCode(42), "");
-
-    EXPECT_TRUE(AtomicFile::exists(path()));
-    const std::string& expected = GetParam() == callsOfAWrite ? newContent : oldContent;
-    EXPECT_EQ(expected, AtomicFile::read(path()));
-
-    AtomicFile::write(path(), newContent);
-    EXPECT_EQ(newContent, AtomicFile::read(path()));
-    EXPECT_FALSE(std::filesystem::exists(m_folder / "a.config.previous"));
-}
-
-INSTANTIATE_TEST_SUITE_P(EveryCall, AtomicFileKill, testing::Range(inReplacement, callsOfAWrite + 1));
 
 } // namespace

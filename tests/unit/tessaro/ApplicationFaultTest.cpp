@@ -19,11 +19,6 @@
 #include <thread>
 #include <vector>
 
-#ifndef _WIN32
-#include <sys/wait.h>
-#include <unistd.h>
-#endif
-
 namespace
 {
 
@@ -175,8 +170,7 @@ class ApplicationFaultTest : public testing::Test
         // The operation that was to fail was not reached any more.
         unharmed,
         accepted,
-        refused,
-        crashed
+        refused
     };
 
     static Outcome outcomeOf(bool isReached, const String& message)
@@ -197,7 +191,7 @@ class ApplicationFaultTest : public testing::Test
         for (const Change& change : changes())
         {
             const State after = stateAfter(change);
-            Outcome outcome = Outcome::crashed;
+            Outcome outcome = Outcome::refused;
             for (int number = 1; outcome != Outcome::unharmed; ++number)
             {
                 SCOPED_TRACE(change.name + (", operation " + std::to_string(number)));
@@ -205,14 +199,7 @@ class ApplicationFaultTest : public testing::Test
                 outcome = attempt(change, number);
                 const State now = state();
                 expectSettled();
-                if (outcome == Outcome::crashed)
-                {
-                    EXPECT_TRUE(now == before || now == after) << testing::PrintToString(now);
-                }
-                else
-                {
-                    EXPECT_EQ(outcome == Outcome::refused ? before : after, now);
-                }
+                EXPECT_EQ(outcome == Outcome::refused ? before : after, now);
                 ++failures;
             }
         }
@@ -229,7 +216,7 @@ TEST_F(ApplicationFaultTest, IsWholeWhicheverOperationOnFilesFails)
         [](const Change& change, int number)
         {
             FaultyFiles files;
-            files.failAt(number, FaultyFiles::Fault::error);
+            files.failAt(number);
             ApplicationStore store(TessaroStore::instance(), TessaroStore::machinePlace(), files);
             const String message = refusal([&] { change.make(store); });
             return outcomeOf(number <= files.operations(), message);
@@ -239,7 +226,7 @@ TEST_F(ApplicationFaultTest, IsWholeWhicheverOperationOnFilesFails)
 TEST_F(ApplicationFaultTest, SaysWhereAFolderCannotBeMade)
 {
     FaultyFiles files;
-    files.failAt(1, FaultyFiles::Fault::error);
+    files.failAt(1);
     ApplicationStore store(TessaroStore::instance(), TessaroStore::machinePlace(), files);
     ServerApplication application;
     application.setApplicationPath(m_disk.path(L"New"));
@@ -360,57 +347,5 @@ TEST_F(ApplicationFaultTest, ChangesCostWhatTheyChangeAndNotWhatIsStored)
         EXPECT_GT(120, disk.reads() - before) << change.name;
     }
 }
-
-#ifndef _WIN32
-// Runs it in a process of its own, which dies with one of these.
-template <class Run>
-bool diesIn(Run run)
-{
-    const pid_t child = fork();
-    if (child == 0)
-    {
-        run();
-        std::_Exit(0);
-    }
-    int status = 0;
-    EXPECT_EQ(child, waitpid(child, &status, 0));
-    EXPECT_TRUE(WIFEXITED(status));
-    return WEXITSTATUS(status) == FaultyFiles::crashStatus || WEXITSTATUS(status) == FaultyDisk::crashStatus;
-}
-
-TEST_F(ApplicationFaultTest, IsWholeWheneverTheProgramDiesAtAFile)
-{
-    expectWholeWhicheverFails(
-        [](const Change& change, int number)
-        {
-            const bool died = diesIn(
-                [&]
-                {
-                    FaultyFiles files;
-                    files.failAt(number, FaultyFiles::Fault::crash);
-                    ApplicationStore store(TessaroStore::instance(), TessaroStore::machinePlace(), files);
-                    change.make(store);
-                });
-            return died ? Outcome::crashed : Outcome::unharmed;
-        });
-}
-
-TEST_F(ApplicationFaultTest, IsWholeWheneverTheProgramDiesInTheDatabase)
-{
-    expectWholeWhicheverFails(
-        [](const Change& change, int number)
-        {
-            const bool died = diesIn(
-                [&]
-                {
-                    FaultyDisk disk;
-                    disk.failAt(number, FaultyDisk::Fault::crash);
-                    ApplicationStore store = ApplicationStore::machine();
-                    change.make(store);
-                });
-            return died ? Outcome::crashed : Outcome::unharmed;
-        });
-}
-#endif
 
 } // namespace

@@ -1,36 +1,17 @@
 #include "FaultyFiles.h"
 
-#include "TemporaryFolder.h"
-
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-
-namespace fs = std::filesystem;
 using Core::String;
 using Core::SystemError;
 
-void FaultyFiles::failAt(int operation, Fault fault) noexcept
+void FaultyFiles::failAt(int operation) noexcept
 {
     m_operations = 0;
     m_failing = operation;
-    m_fault = fault;
 }
 
-// Counts the operation. partly does what a crash in its middle leaves behind.
-template <class Partly>
-bool FaultyFiles::fails(Partly partly) const
+bool FaultyFiles::fails() const noexcept
 {
-    if (++m_operations != m_failing)
-    {
-        return false;
-    }
-    if (m_fault == Fault::crash)
-    {
-        partly();
-        std::_Exit(crashStatus);
-    }
-    return true;
+    return ++m_operations == m_failing;
 }
 
 FaultyFiles::Kind FaultyFiles::kind(const String& path) const
@@ -40,31 +21,22 @@ FaultyFiles::Kind FaultyFiles::kind(const String& path) const
 
 SystemError FaultyFiles::copy(const String& from, const String& to) const
 {
-    return fails([&] { std::ofstream(toPath(to)) << "hal"; }) ? someError : system().copy(from, to);
+    return fails() ? someError : system().copy(from, to);
 }
 
 SystemError FaultyFiles::makeFolder(const String& path) const
 {
-    return fails([] {}) ? someError : system().makeFolder(path);
+    return fails() ? someError : system().makeFolder(path);
 }
 
 SystemError FaultyFiles::move(const String& from, const String& to) const
 {
-    return fails([] {}) ? someError : system().move(from, to);
+    return fails() ? someError : system().move(from, to);
 }
 
 bool FaultyFiles::remove(const String& path) const
 {
-    const auto removeFirst = [&]
-    {
-        std::error_code ignored;
-        for (const fs::directory_entry& entry : fs::directory_iterator(toPath(path), ignored))
-        {
-            fs::remove_all(entry, ignored);
-            break;
-        }
-    };
-    return !fails(removeFirst) && system().remove(path);
+    return !fails() && system().remove(path);
 }
 
 void FaultyFiles::removeOld(const String& folder, bool (*isMeant)(const String& name)) const

@@ -2,22 +2,14 @@
 
 #include "brimlow/system/FileTree.h"
 
-// The system's files, with operations that fail when they are told to. Operations are counted from 1: those that change
-// something on the disk.
+// The system's files, with an operation that fails, and does nothing, when it is told to. Operations are counted from 1:
+// those that change something on the disk.
 class FaultyFiles final : public Core::IO::FileTree
 {
   public:
-    enum class Fault
-    {
-        // This one operation fails and does nothing.
-        error,
-        // The process ends here, in the middle of what it was doing.
-        crash
-    };
-    static constexpr int crashStatus = 78;
     static constexpr Core::SystemError someError = 5;
 
-    void failAt(int operation, Fault fault) noexcept;
+    void failAt(int operation) noexcept;
     int operations() const noexcept { return m_operations; }
 
     Kind kind(const Core::String& path) const override;
@@ -28,10 +20,9 @@ class FaultyFiles final : public Core::IO::FileTree
     void removeOld(const Core::String& folder, bool (*isMeant)(const Core::String& name)) const override;
 
   private:
-    template <class Partly>
-    bool fails(Partly partly) const;
+    // Counts the operation.
+    bool fails() const noexcept;
 
     mutable int m_operations = 0;
     int m_failing = 0;
-    Fault m_fault = Fault::error;
 };

@@ -110,7 +110,7 @@ TEST_F(MoveJournalTest, LeavesWhatWasCommitted)
     FaultyFiles files;
     ApplicationStore store(TessaroStore::instance(), TessaroStore::machinePlace(), files);
     // The move itself, and then the removal of the journal fails.
-    files.failAt(2, FaultyFiles::Fault::error);
+    files.failAt(2);
     store.renameTemplate(m_application, L"a.xsl", L"b.xsl");
     ASSERT_TRUE(fs::exists(journal()));
     ServerTemplates().getCount();
@@ -210,10 +210,10 @@ TEST_F(MoveJournalTest, ReportsWhatCannotBeUndoneToTheNextChangeOnly)
     leave("App", "New");
     FaultyFiles files;
     ApplicationStore store(TessaroStore::instance(), TessaroStore::machinePlace(), files);
-    files.failAt(1, FaultyFiles::Fault::error);
+    files.failAt(1);
     EXPECT_EQ(1u, store.get()->applications.size());
     EXPECT_EQ(1, files.operations());
-    files.failAt(1, FaultyFiles::Fault::error);
+    files.failAt(1);
     const String message = refusal([&] { store.removeApplication(L"App"); });
     EXPECT_TRUE(message.startsWith(L"An interrupted change of \"" + m_disk.path(L"New") + L"\" cannot be undone: "))
         << message.toUtf8();
