@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <map>
-#include <ranges>
 
 namespace Fit
 {
@@ -113,12 +112,12 @@ Faults faultsOfOrder(HWND dialog, const Controls& controls)
                 faults.push_back(L"its group goes on with no radio button: " + describe(*one));
             }
         }
-        for (const Control& earlier : std::ranges::subrange(controls.begin(), one))
+        for (auto earlier = controls.begin(); earlier != one; ++earlier)
         {
-            if (earlier.isUsed() && earlier.isShown() &&
-                (isRightOf(earlier.place, one->place) || isBelow(earlier.place, one->place)))
+            if (earlier->isUsed() && earlier->isShown() &&
+                (isRightOf(earlier->place, one->place) || isBelow(earlier->place, one->place)))
             {
-                faults.push_back(describe(earlier) + L" comes before " + describe(*one));
+                faults.push_back(describe(*earlier) + L" comes before " + describe(*one));
             }
         }
     }

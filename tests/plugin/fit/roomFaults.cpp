@@ -2,9 +2,6 @@
 
 #include "kit/windows.h"
 
-#include <algorithm>
-#include <ranges>
-
 namespace Fit
 {
 namespace
@@ -175,11 +172,11 @@ Faults faultsOfRoom(HWND dialog, const Controls& controls, int margin)
         {
             faults.push_back(L"beyond the margin: " + describe(*control));
         }
-        for (const Control& earlier : std::ranges::subrange(controls.begin(), control))
+        for (auto earlier = controls.begin(); earlier != control; ++earlier)
         {
-            if (earlier.isShown() && collide(earlier, *control))
+            if (earlier->isShown() && collide(*earlier, *control))
             {
-                faults.push_back(describe(earlier) + L" is over " + describe(*control));
+                faults.push_back(describe(*earlier) + L" is over " + describe(*control));
             }
         }
     }
