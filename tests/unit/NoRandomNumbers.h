@@ -2,6 +2,10 @@
 
 #include <openssl/rand.h>
 
+// OpenSSL 3 calls the interface deprecated, but has no other one for a single process.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
+
 // While it lives, the system has no random numbers.
 class NoRandomNumbers
 {
@@ -18,3 +22,5 @@ class NoRandomNumbers
     const RAND_METHOD m_none{
         .seed = nullptr, .bytes = &fail, .cleanup = nullptr, .add = nullptr, .pseudorand = &fail, .status = nullptr};
 };
+
+#pragma GCC diagnostic pop

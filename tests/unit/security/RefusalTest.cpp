@@ -1,5 +1,3 @@
-#define OPENSSL_SUPPRESS_DEPRECATED
-
 #include "SecurityTest.h"
 
 #include "NoRandomNumbers.h"

@@ -1,5 +1,3 @@
-#define OPENSSL_SUPPRESS_DEPRECATED
-
 #include "PasswordHash.h"
 #include "NoRandomNumbers.h"
 #include "PrintTo.h"
