@@ -64,7 +64,7 @@ std::vector<std::wstring> textsOf(const Control& control)
 // Besides its text.
 SIZE frameOf(HWND dialog, Kind kind)
 {
-    const auto edge = static_cast<LONG>(2 * GetSystemMetrics(SM_CYEDGE));
+    const LONG edge = 2L * GetSystemMetrics(SM_CYEDGE);
     switch (kind)
     {
     case Kind::button:
