@@ -70,6 +70,7 @@ sources_lane() {
 
 native_lane() {
   tests UnitTests-native 900 out/native/UnitTests
+  tests FaultTests-native 900 out/native/FaultTests
 }
 
 # resolution DPI: of the screen, for the programs that start from now on.

@@ -163,8 +163,21 @@ std::string look()
 
 std::vector<Save> applicationSaves()
 {
+    // What is left in a folder goes with the next addition to it.
     const auto save = [](const char* name, const std::function<void()>& change) {
         return Save{name, prepare, change, addNext, look};
+    };
+    const auto inApplication = [](const char* name, const std::function<void()>& change)
+    {
+        return Save{name, prepare, change,
+                    toApplication([](ServerTemplates&, ServerApplication& application)
+                                  { application.addNewResource(L"Next"); }),
+                    look};
+    };
+    const auto inFolder = [](const char* name, const std::function<void()>& change)
+    {
+        return Save{name, prepare, change,
+                    toFolder([](ResourcesFolder& folder) { folder.addResourceFile(resourceFile(L"a.xsl")); }), look};
     };
     return {
         {"application, the first one", [] {}, addNew, addNext, look},
@@ -183,24 +196,25 @@ std::vector<Save> applicationSaves()
                      changeSettings(application);
                      applications.updateApplication(application);
                  })),
-        save("template, copied in", toApplication([](ServerTemplates&, ServerApplication& application)
-                                                  { application.addNewTemplate(templateFile(L"new.xsl")); })),
-        save("template, renamed", toApplication([](ServerTemplates&, ServerApplication& application)
-                                                { application.renameTemplate(application.getAt(0), L"b.xsl"); })),
-        save("template, deleted", toApplication([](ServerTemplates&, ServerApplication& application)
-                                                { application.deleteTemplate(application.getAt(0)); })),
-        save("resource folder, added", toApplication([](ServerTemplates&, ServerApplication& application)
-                                                     { application.addNewResource(L"Fonts"); })),
-        save("resource folder, renamed",
-             toApplication([](ServerTemplates&, ServerApplication& application)
-                           { application.renameResource(application.getResourceFolderAt(0), L"Pictures"); })),
-        save("resource folder, deleted", toApplication([](ServerTemplates&, ServerApplication& application)
-                                                       { application.deleteResource(L"Images"); })),
-        save("resource file, copied in",
-             toFolder([](ResourcesFolder& folder) { folder.addResourceFile(resourceFile(L"new.xsl")); })),
-        save("resource file, renamed",
-             toFolder([](ResourcesFolder& folder) { folder.renameReourceFile(folder.getAt(0), L"z.png"); })),
-        save("resource file, deleted",
-             toFolder([](ResourcesFolder& folder) { folder.deleteResourceFile(folder.getAt(0)); })),
+        inApplication("template, copied in", toApplication([](ServerTemplates&, ServerApplication& application)
+                                                           { application.addNewTemplate(templateFile(L"new.xsl")); })),
+        inApplication("template, renamed",
+                      toApplication([](ServerTemplates&, ServerApplication& application)
+                                    { application.renameTemplate(application.getAt(0), L"b.xsl"); })),
+        inApplication("template, deleted", toApplication([](ServerTemplates&, ServerApplication& application)
+                                                         { application.deleteTemplate(application.getAt(0)); })),
+        inApplication("resource folder, added", toApplication([](ServerTemplates&, ServerApplication& application)
+                                                              { application.addNewResource(L"Fonts"); })),
+        inApplication("resource folder, renamed",
+                      toApplication([](ServerTemplates&, ServerApplication& application)
+                                    { application.renameResource(application.getResourceFolderAt(0), L"Pictures"); })),
+        inApplication("resource folder, deleted", toApplication([](ServerTemplates&, ServerApplication& application)
+                                                                { application.deleteResource(L"Images"); })),
+        inFolder("resource file, copied in",
+                 toFolder([](ResourcesFolder& folder) { folder.addResourceFile(resourceFile(L"new.xsl")); })),
+        inFolder("resource file, renamed",
+                 toFolder([](ResourcesFolder& folder) { folder.renameReourceFile(folder.getAt(0), L"z.png"); })),
+        inFolder("resource file, deleted",
+                 toFolder([](ResourcesFolder& folder) { folder.deleteResourceFile(folder.getAt(0)); })),
     };
 }

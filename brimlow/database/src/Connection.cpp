@@ -43,11 +43,24 @@ Connection Connection::openOrCreate(const DatabaseFile& file)
     return connection;
 }
 
-bool Connection::open(const DatabaseFile& file)
+int Connection::openToWrite(const Core::String& path)
 {
     sqlite3* database = nullptr;
-    const int result = sqlite3_open_v2(file.path.toUtf8().c_str(), &database, SQLITE_OPEN_READWRITE, nullptr);
+    const int result = sqlite3_open_v2(path.toUtf8().c_str(), &database, SQLITE_OPEN_READWRITE, nullptr);
     m_database.reset(database);
+    return result;
+}
+
+bool Connection::open(const DatabaseFile& file)
+{
+    int result = openToWrite(file.path);
+    // SQLite tries to open for reading what it cannot open for writing, and succeeds where another program made the
+    // file in between.
+    if (result == SQLITE_OK && sqlite3_db_readonly(get(), "main"))
+    {
+        result = openToWrite(file.path);
+    }
+    sqlite3* const database = get();
     if (result != SQLITE_OK)
     {
         if (isNotFound(database))

@@ -27,11 +27,6 @@ Core::String systemReason(sqlite3* database)
     return Core::describeSystemError(static_cast<Core::SystemError>(sqlite3_system_errno(database)));
 }
 
-Core::String format(const wchar_t* sentence, const Core::String& path, const Core::String& reason)
-{
-    return Core::format(sentence, path, reason);
-}
-
 } // namespace
 
 Core::String failureSentence(const Core::String& path, sqlite3* database, int result)
@@ -41,21 +36,21 @@ Core::String failureSentence(const Core::String& path, sqlite3* database, int re
     {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
-        return format(L"The database \"{0}\" is in use by another program. Please try again.", path, reason);
+        return Core::format(L"The database \"{0}\" is in use by another program. Please try again.", path, reason);
     case SQLITE_NOTADB:
     case SQLITE_CORRUPT:
-        return format(L"The database \"{0}\" is damaged ({1}). Please restore it from a backup.", path, reason);
+        return Core::format(L"The database \"{0}\" is damaged ({1}). Please restore it from a backup.", path, reason);
     case SQLITE_FULL:
-        return format(L"The database \"{0}\" cannot be changed: the disk is full.", path, reason);
+        return Core::format(L"The database \"{0}\" cannot be changed: the disk is full.", path, reason);
     case SQLITE_READONLY:
-        return format(L"The database \"{0}\" cannot be changed: it is read-only.", path, reason);
+        return Core::format(L"The database \"{0}\" cannot be changed: it is read-only.", path, reason);
     case SQLITE_CANTOPEN:
     case SQLITE_PERM:
-        return format(L"The database \"{0}\" cannot be opened: {1}.", path, systemReason(database));
+        return Core::format(L"The database \"{0}\" cannot be opened: {1}.", path, systemReason(database));
     case SQLITE_IOERR:
-        return format(L"The database \"{0}\" cannot be read or written: {1}.", path, systemReason(database));
+        return Core::format(L"The database \"{0}\" cannot be read or written: {1}.", path, systemReason(database));
     default:
-        return format(L"The database \"{0}\" cannot be used: {1}.", path, reason);
+        return Core::format(L"The database \"{0}\" cannot be used: {1}.", path, reason);
     }
 }
 

@@ -338,6 +338,11 @@ void ApplicationStore::removeFile(ResourcesFolder& folder, const String& path)
 bool ApplicationStore::isThere(const Shelf& shelf, const String& name) const
 {
     const FileTree::Kind kind = m_files.kind(join(shelf.folder, name));
+    if (kind == FileTree::Kind::unknown)
+    {
+        // It is tried, and the system says what is in the way.
+        return true;
+    }
     return shelf.entries.isFolder ? kind == FileTree::Kind::folder || kind == FileTree::Kind::link
                                   : kind == FileTree::Kind::file;
 }
@@ -352,6 +357,7 @@ void ApplicationStore::copy(const String& from, const String& to) const
     case FileTree::Kind::link:
         throw Core::IOException(L"\"" + from + L"\" cannot be copied, because it is a folder.");
     case FileTree::Kind::file:
+    case FileTree::Kind::unknown:
         break;
     }
     if (const Core::SystemError error = m_files.system().copy(from, to))

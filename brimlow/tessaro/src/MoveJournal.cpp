@@ -196,7 +196,8 @@ void MoveJournal::settleIfPossible() const noexcept
 
 bool MoveJournal::isPending() const
 {
-    return m_files.system().kind(m_path) == FileTree::Kind::file;
+    const FileTree::Kind kind = m_files.system().kind(m_path);
+    return kind == FileTree::Kind::file || kind == FileTree::Kind::unknown;
 }
 
 // Nothing when it was not this program that wrote it: it must never move or remove anything elsewhere.

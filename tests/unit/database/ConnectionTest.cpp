@@ -13,6 +13,7 @@
 
 #include <cerrno>
 #include <filesystem>
+#include <limits>
 #include <string>
 
 namespace
@@ -198,11 +199,19 @@ TEST_F(ConnectionTest, RefusesADatabaseOfSomethingElse)
     EXPECT_EQ(sentence(L"cannot be used: no such table: number."), refusalToRead());
 }
 
+TEST_F(ConnectionTest, OpensForWritingWhatAnotherProgramMadeInBetween)
+{
+    makeWithNumber(1);
+    FaultyDisk disk;
+    disk.setReadOnly(1);
+    EXPECT_EQ(L"accepted", refusalToChange());
+}
+
 TEST_F(ConnectionTest, RefusesToChangeAReadOnlyDatabaseButReadsIt)
 {
     makeWithNumber(1);
     FaultyDisk disk;
-    disk.setReadOnly(true);
+    disk.setReadOnly(std::numeric_limits<int>::max());
     EXPECT_EQ(std::vector{1}, numbers());
     EXPECT_EQ(L"The database \"" + m_path + L"\" cannot be changed: it is read-only.", refusalToChange());
 }

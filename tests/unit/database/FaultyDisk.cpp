@@ -12,7 +12,7 @@ struct FaultyDisk::Vfs
     int reads = 0;
     int failing = 0;
     Fault fault = Fault::error;
-    bool readOnly = false;
+    int readOnly = 0;
     std::function<void()> onWait;
 
     // What becomes of the next operation.
@@ -113,8 +113,9 @@ FaultyDisk::FaultyDisk() : m_vfs(std::make_unique<Vfs>())
                 return fault;
             }
         }
-        if (vfs.readOnly)
+        if ((flags & SQLITE_OPEN_MAIN_DB) && vfs.readOnly > 0)
         {
+            --vfs.readOnly;
             flags = (flags & ~(SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE)) | SQLITE_OPEN_READONLY;
         }
         const int result = vfs.disk->xOpen(vfs.disk, name, realOf(file), flags, outFlags);
@@ -156,9 +157,9 @@ void FaultyDisk::failAt(int operation, Fault fault)
     m_vfs->fault = fault;
 }
 
-void FaultyDisk::setReadOnly(bool readOnly)
+void FaultyDisk::setReadOnly(int databases)
 {
-    m_vfs->readOnly = readOnly;
+    m_vfs->readOnly = databases;
 }
 
 void FaultyDisk::onWait(std::function<void()> action)

@@ -23,8 +23,8 @@ class FaultyDisk
     ~FaultyDisk();
 
     void failAt(int operation, Fault fault);
-    // Files are opened for reading only.
-    void setReadOnly(bool readOnly);
+    // The next databases are opened for reading only, as many as that.
+    void setReadOnly(int databases);
     // Called whenever the database waits for another one, instead of waiting.
     void onWait(std::function<void()> action);
 

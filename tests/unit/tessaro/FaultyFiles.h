@@ -2,8 +2,8 @@
 
 #include "brimlow/system/FileTree.h"
 
-// The system's files, with an operation that fails, and does nothing, when it is told to. Operations are counted from 1:
-// those that change something on the disk.
+// The system's files, with an operation that fails, and does nothing, when it is told to. Operations are counted from
+// 1: those that change something on the disk.
 class FaultyFiles final : public Core::IO::FileTree
 {
   public:

@@ -77,9 +77,13 @@ class SystemFileTree final : public FileTree
         std::error_code ignored;
         const fs::path file = systemPath(path);
         const fs::file_status status = fs::symlink_status(file, ignored);
-        if (!fs::exists(status))
+        if (status.type() == fs::file_type::not_found)
         {
             return Kind::none;
+        }
+        if (!fs::exists(status))
+        {
+            return Kind::unknown;
         }
         if (fs::is_symlink(status))
         {

@@ -99,7 +99,8 @@ class SystemFileTree final : public FileTree
         const DWORD attributes = GetFileAttributesW(extendedPath(path).c_str());
         if (attributes == INVALID_FILE_ATTRIBUTES)
         {
-            return Kind::none;
+            const DWORD error = GetLastError();
+            return error == ERROR_ACCESS_DENIED || error == ERROR_SHARING_VIOLATION ? Kind::unknown : Kind::none;
         }
         if (!(attributes & FILE_ATTRIBUTE_DIRECTORY))
         {

@@ -45,6 +45,8 @@ class Connection
     explicit Connection(const DatabaseFile& file) : m_path(file.path) {}
     // Returns false when there is no such file.
     bool open(const DatabaseFile& file);
+    // SQLite's result.
+    int openToWrite(const Core::String& path);
     void upgrade(const Schema& schema);
     int readVersion();
 

@@ -19,7 +19,9 @@ class FileTree
         file,
         folder,
         // A link to a folder, or a junction.
-        link
+        link,
+        // Something may be there, which the caller may not look at or the system cannot read.
+        unknown
     };
 
     // The system itself. It has no state.
@@ -27,7 +29,6 @@ class FileTree
 
     virtual ~FileTree() = default;
 
-    // Of something that the caller may not look at: none.
     virtual Kind kind(const String& path) const = 0;
 
     // Copies the content of a file, link or not, into a new one and returns when it is on the disk. The new file has
