@@ -17,13 +17,6 @@
 #include <unistd.h>
 #include <vector>
 
-// At its end a program with the leak checker stops itself through a process of the checker's, which never comes to life
-// under the trap below. UnitTests look for leaks.
-extern "C" const char* __asan_default_options()
-{
-    return "detect_leaks=0";
-}
-
 namespace
 {
 
