@@ -166,6 +166,7 @@ class SystemFileTree final : public FileTree
         case Kind::none:
             return true;
         case Kind::file:
+        case Kind::unknown:
             return removeFile(extendedPath(path));
         case Kind::link:
             return removeFolder(extendedPath(path));
