@@ -30,6 +30,7 @@ bool isPrintable(const Core::String& text)
 
 void checkCertificate(std::string_view content)
 {
+    ERR_clear_error(); // of whoever was here before
     const auto* bytes = reinterpret_cast<const unsigned char*>(content.data());
     const Security::X509Ptr certificate(d2i_X509(nullptr, &bytes, static_cast<long>(content.size())));
     if (!certificate)
