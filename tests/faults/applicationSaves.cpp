@@ -12,6 +12,8 @@
 #include <sstream>
 #include <stdexcept>
 
+namespace ApplicationSaves
+{
 namespace
 {
 
@@ -160,9 +162,11 @@ std::string look()
 }
 
 } // namespace
+} // namespace ApplicationSaves
 
 std::vector<Save> applicationSaves()
 {
+    using namespace ApplicationSaves;
     // What is left in a folder goes with the next addition to it.
     const auto save = [](const char* name, const std::function<void()>& change) {
         return Save{name, prepare, change, addNext, look};

@@ -15,6 +15,8 @@
 
 // What is kept in single files: the server's settings, texts for the administrator, logs.
 
+namespace FileSaves
+{
 namespace
 {
 
@@ -106,9 +108,11 @@ void storeBacklog()
 }
 
 } // namespace
+} // namespace FileSaves
 
 std::vector<Save> fileSaves()
 {
+    using namespace FileSaves;
     return {
         {"settings, the first one", [] {}, storePort, storeBacklog, lookAtSettings},
         {"settings, a value changed", prepareSettings, storePort, storeBacklog, lookAtSettings},

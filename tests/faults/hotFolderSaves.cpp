@@ -6,6 +6,8 @@
 
 #include <sstream>
 
+namespace HotFolderSaves
+{
 namespace
 {
 
@@ -79,9 +81,11 @@ std::string look()
 }
 
 } // namespace
+} // namespace HotFolderSaves
 
 std::vector<Save> hotFolderSaves()
 {
+    using namespace HotFolderSaves;
     return {
         {"hot folder, the first one", [] {}, addNew, addNext, look},
         {"hot folder, added", addTwo, addNew, addNext, look},

@@ -13,6 +13,8 @@
 #include <sstream>
 #include <string>
 
+namespace KeyStoreSaves
+{
 namespace
 {
 
@@ -143,9 +145,11 @@ std::string look()
 }
 
 } // namespace
+} // namespace KeyStoreSaves
 
 std::vector<Save> keyStoreSaves()
 {
+    using namespace KeyStoreSaves;
     return {
         {"key store, the first certificate", prepareFiles, importFirst, importSecond, look},
         {"key store, the first one after a crash",

@@ -6,6 +6,8 @@
 
 #include <sstream>
 
+namespace UserSaves
+{
 namespace
 {
 
@@ -65,9 +67,11 @@ std::string look()
 }
 
 } // namespace
+} // namespace UserSaves
 
 std::vector<Save> userSaves()
 {
+    using namespace UserSaves;
     return {
         {"user, the first one", [] {}, addNew, addNext, look},
         {"user, added", addTwo, addNew, addNext, look},

@@ -195,7 +195,7 @@ TEST_F(ConfigurationValues, WhatXmlCannotHoldIsRefusedNamingKeyFileAndCharacter)
         }
         EXPECT_EQ(L"The key \"" + String(text) + L"\" cannot be stored in \"" + m_path +
                       L"\", because it contains the character " + code + L".",
-                  refusal([&] { configuration.setValue(text, L"x", m_path); }));
+                  refusal([&, key = text] { configuration.setValue(key, L"x", m_path); }));
         EXPECT_THAT(entriesOf(configuration), ElementsAre(std::pair(String(L"Name"), String(L"before"))));
     }
 }
