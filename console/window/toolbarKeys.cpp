@@ -30,7 +30,7 @@ bool isUsable(const TBBUTTON& button)
 }
 
 // The hot button is the one that the keyboard is at.
-int current(HWND toolbar)
+int hotButton(HWND toolbar)
 {
     return static_cast<int>(SendMessageW(toolbar, TB_GETHOTITEM, 0, 0));
 }
@@ -55,7 +55,7 @@ void go(HWND toolbar, int place, int step)
 
 void press(HWND toolbar)
 {
-    const int place = current(toolbar);
+    const int place = hotButton(toolbar);
     if (place == none || !isUsable(buttonAt(toolbar, place)))
     {
         return;
@@ -86,11 +86,11 @@ bool take(HWND toolbar, WPARAM key)
     {
     case VK_RIGHT:
     case VK_DOWN:
-        go(toolbar, current(toolbar) + 1, 1);
+        go(toolbar, hotButton(toolbar) + 1, 1);
         return true;
     case VK_LEFT:
     case VK_UP:
-        go(toolbar, current(toolbar) - 1, -1);
+        go(toolbar, hotButton(toolbar) - 1, -1);
         return true;
     case VK_HOME:
         go(toolbar, 0, 1);
