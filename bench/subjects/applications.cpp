@@ -18,7 +18,6 @@ using Tessaro::ResourcesFolder;
 using Tessaro::ServerApplication;
 using Tessaro::ServerTemplates;
 
-constexpr wchar_t templatesNode[] = L"Server Templates";
 constexpr wchar_t applicationNode[] = L"Application 0";
 constexpr wchar_t folderNode[] = L"folder0";
 
@@ -83,7 +82,6 @@ void make(const char* fixture, std::size_t size)
 
 const auto putBack = [] { Fixtures::make("kept", 0); };
 const auto openMiddle = [](List& list) { list.open(list.middle()); };
-const auto deleteSelected = [](List& list) { list.deleteSelected(); };
 
 } // namespace
 
@@ -124,7 +122,7 @@ void templates(std::size_t size, std::chrono::milliseconds patience)
                   .rows = size + nodes,
                   .entry = Entry{IDD_EDIT_TEMPLATE, {{IDC_TEMPLATE_NAME, L"renamed"}}}});
     bench.change({.what = "delete one",
-                  .command = deleteSelected,
+                  .command = &List::deleteSelected,
                   .least =
                       []
                   {
@@ -170,7 +168,7 @@ void resourceFiles(std::size_t size, std::chrono::milliseconds patience)
                   .rows = size,
                   .entry = Entry{IDD_RENAME_RESOURCE_FILE, {{IDC_RESOURCE_FILE_NAME, L"renamed"}}}});
     bench.change({.what = "delete one",
-                  .command = deleteSelected,
+                  .command = &List::deleteSelected,
                   .least =
                       []
                   {
@@ -203,7 +201,7 @@ void accessList(std::size_t size, std::chrono::milliseconds patience)
                   .rows = size + 1,
                   .entry = Entry{IDD_GRANT_ACCESS}});
     bench.change({.what = "revoke one",
-                  .command = deleteSelected,
+                  .command = &List::deleteSelected,
                   .least =
                       []
                   {

@@ -52,7 +52,7 @@ void certificates(std::size_t size, std::chrono::milliseconds patience)
                   .entry = Entry{IDD_CERTIFICATE},
                   .listsAnew = false});
     bench.change({.what = "delete one",
-                  .command = [](List& list) { list.deleteSelected(); },
+                  .command = &List::deleteSelected,
                   .least = [size] { openStore(false)->deleteIdentity(static_cast<unsigned>(size / 2)); },
                   .rows = size - 1});
     compare("Server Certificates: export one", size, patience,

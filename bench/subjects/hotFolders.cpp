@@ -53,7 +53,7 @@ void hotFolders(std::size_t size, std::chrono::milliseconds patience)
                   .entry = Entry{IDD_HOT_FOLDER},
                   .listsAnew = false});
     bench.change({.what = "delete one",
-                  .command = [](List& list) { list.deleteSelected(); },
+                  .command = &List::deleteSelected,
                   .least =
                       [&]
                   {

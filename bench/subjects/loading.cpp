@@ -34,8 +34,6 @@ Factory plugInLibrary()
     return factory;
 }
 
-constexpr wchar_t templatesNode[] = L"Server Templates";
-
 // From nothing to the opened root and the opened applications in it, and back.
 void loadAndTakeDown(const CLSID& clsid, std::size_t applications)
 {

@@ -62,7 +62,7 @@ void logFiles(std::size_t size, std::chrono::milliseconds patience)
 
     const std::wstring middle = folder + logsIn(folder)[size / 2];
     bench.change({.what = "delete one",
-                  .command = [](List& list) { list.deleteSelected(); },
+                  .command = &List::deleteSelected,
                   .least = [&] { deleteFile(middle); },
                   .rows = size - 1});
     bench.change({.what = "delete all",

@@ -66,7 +66,7 @@ void privateFonts(std::size_t size, std::chrono::milliseconds patience)
                   .rows = size,
                   .entry = entry});
     bench.change({.what = "delete one",
-                  .command = [](List& list) { list.deleteSelected(); },
+                  .command = &List::deleteSelected,
                   .least = [&] { deleteMapping(key.c_str()); },
                   .rows = size - 1});
 }

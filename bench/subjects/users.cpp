@@ -40,8 +40,6 @@ void deleteMiddleUser()
     }
 }
 
-const auto deleteSelected = [](List& list) { list.deleteSelected(); };
-
 } // namespace
 
 // So many users, and one application.
@@ -81,7 +79,7 @@ void users(std::size_t size, std::chrono::milliseconds patience)
                   },
                   .rows = size + 1,
                   .entry = Entry{IDD_EDIT_USER}});
-    bench.change({.what = "delete one", .command = deleteSelected, .least = deleteMiddleUser, .rows = size});
+    bench.change({.what = "delete one", .command = &List::deleteSelected, .least = deleteMiddleUser, .rows = size});
 }
 
 // One user, whom all of so many applications list.
@@ -93,7 +91,7 @@ void usersOfApplications(std::size_t size, std::chrono::milliseconds patience)
     Fixtures::make("keep", 0);
     ListBench bench("Users", userList(), {L"Users"}, 2, size, patience, [] { Fixtures::make("kept", 0); });
     bench.change({.what = "delete one whom all applications list (size: applications)",
-                  .command = deleteSelected,
+                  .command = &List::deleteSelected,
                   .least = deleteMiddleUser,
                   .rows = 1});
 }
