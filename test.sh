@@ -69,8 +69,8 @@ sources_lane() {
 }
 
 native_lane() {
-  tests UnitTests-native 900 out/native/UnitTests
-  tests FaultTests-native 900 out/native/FaultTests
+  tests UnitTests-native 1200 out/native/UnitTests
+  tests FaultTests-native 2400 out/native/FaultTests
 }
 
 # resolution DPI: of the screen, for the programs that start from now on.
@@ -84,20 +84,20 @@ programs_lane() {
   enter_wine programs
   resolution 96
   for program in UnitTests PluginTests HostTests WindowTests StandInTests; do
-    tests "$program" 900 wine "out/windows-x64/$program.exe"
+    tests "$program" 1200 wine "out/windows-x64/$program.exe"
   done
   for dpi in 144 192; do
     resolution $dpi
-    tests "PluginTests-at-$dpi-dpi" 300 wine out/windows-x64/PluginTests.exe --gtest_filter='*Fit.hasRoomForItsTexts/*'
+    tests "PluginTests-at-$dpi-dpi" 600 wine out/windows-x64/PluginTests.exe --gtest_filter='*Fit.hasRoomForItsTexts/*'
   done
   resolution 96
-  tests AcceptanceTests-restart 300 wine out/windows-x64/AcceptanceTests.exe --gtest_filter='Restart.*'
+  tests AcceptanceTests-restart 600 wine out/windows-x64/AcceptanceTests.exe --gtest_filter='Restart.*'
 }
 
 acceptance_lane() {
   enter_wine "acceptance-$1"
   GTEST_TOTAL_SHARDS=2 GTEST_SHARD_INDEX=$1 \
-    tests "AcceptanceTests-$1" 1500 wine out/windows-x64/AcceptanceTests.exe --gtest_filter='-Restart.*'
+    tests "AcceptanceTests-$1" 2400 wine out/windows-x64/AcceptanceTests.exe --gtest_filter='-Restart.*'
 }
 
 finish() {
