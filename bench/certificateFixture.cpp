@@ -5,7 +5,6 @@
 #include "SelfSigned.h"
 #include "passwordProtection.h"
 #include "privateKey.h"
-#include "writePrivately.h"
 
 #include <brimlow/system/AtomicFile.h>
 
@@ -53,7 +52,8 @@ void makeCertificates(std::size_t size)
         writer.addCertificate(*certificate, id);
         writer.addKey(*encrypted, id);
     }
-    Security::writePrivately(path, writer.finish(password, Security::KeyStore::usualRounds));
+    Core::IO::AtomicFile::write(path, writer.finish(password, Security::KeyStore::usualRounds),
+                                Core::IO::Access::Private);
 }
 
 } // namespace Bench

@@ -2,8 +2,6 @@
 
 #include "CutPoint.h"
 
-#include <string>
-
 // What this process asks of the system for files and folders, as far as it concerns the machine's data folder. What
 // concerns memory, time and the process itself goes on undisturbed.
 namespace SystemCalls
@@ -21,5 +19,8 @@ class Cut
     Cut& operator=(const Cut&) = delete;
     ~Cut();
 };
+
+// That point; null while there is no Cut.
+CutPoint* cutPoint() noexcept;
 
 } // namespace SystemCalls

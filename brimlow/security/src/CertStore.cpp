@@ -8,8 +8,8 @@
 #include "describe.h"
 #include "importFile.h"
 #include "privateKey.h"
-#include "writePrivately.h"
 
+#include "brimlow/system/AtomicFile.h"
 #include "brimlow/system/Exception.h"
 #include "brimlow/system/StringFormatStream.h"
 
@@ -86,7 +86,7 @@ void CertStore::exportPKCS12(unsigned index, const Core::String& fileName)
     // What is exported is in the form of a key store with this certificate alone.
     KeyStore exported{Secret()};
     exported.add(*identity->certificate, *file.decryptKey(store, *identity), issuers);
-    writePrivately(fileName, exported.toFile());
+    Core::IO::AtomicFile::write(fileName, exported.toFile(), Core::IO::Access::Private);
 }
 
 SmartPtr<Certificate> CertStore::find(const Core::String& serialNumber, const Core::String& issuerName,

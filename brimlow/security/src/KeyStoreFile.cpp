@@ -2,7 +2,6 @@
 
 #include "LockFile.h"
 #include "passwordProtection.h"
-#include "writePrivately.h"
 
 #include "brimlow/system/Application.h"
 #include "brimlow/system/AtomicFile.h"
@@ -30,7 +29,7 @@ using Core::IO::AtomicFile;
     throw Core::Exception((Core::StringFormatStream(sentence) << path << more).getString());
 }
 
-// A file that makePrivateFile has made, and that was not written to any more, is empty. It counts as missing.
+// An empty file counts as missing: nothing is lost with it.
 std::string readIfThere(const String& path)
 {
     return AtomicFile::exists(path) ? AtomicFile::read(path) : std::string();
@@ -109,7 +108,7 @@ void KeyStoreFile::change(const std::function<void(KeyStore&)>& change) const
     // The password is on the disk before anything is encrypted with it.
     KeyStore store = content.empty() ? KeyStore(readOrMakePassword()) : open(content);
     change(store);
-    writePrivately(m_path, store.toFile());
+    AtomicFile::write(m_path, store.toFile(), Core::IO::Access::Private);
 }
 
 KeyStore KeyStoreFile::open(const std::string& content) const
@@ -164,7 +163,7 @@ Secret KeyStoreFile::readOrMakePassword() const
         return readPassword();
     }
     Secret password = Secret::random();
-    writePrivately(passwordPath(), protect(password));
+    AtomicFile::write(passwordPath(), protect(password), Core::IO::Access::Private);
     return password;
 }
 

@@ -55,13 +55,13 @@ void check(SystemError error, const String& path, const wchar_t* failure)
 class SideFile
 {
   public:
-    SideFile(const String& target, FileOperations& operations) : m_operations(operations)
+    SideFile(const String& target, FileOperations& operations, Access ofNewFile) : m_operations(operations)
     {
         SystemError error = 0;
         for (int attempt = 1; attempt <= maxAttempts; ++attempt)
         {
             m_path = newSidePath(target);
-            error = operations.createSide(m_path, findContent(target, operations));
+            error = operations.createSide(m_path, findContent(target, operations), ofNewFile);
             if (!error || !operations.mayPass(error))
             {
                 break;
@@ -116,12 +116,12 @@ void bringBack(const String& path, FileOperations& operations)
 
 } // namespace
 
-void AtomicFile::write(const String& path, std::string_view content)
+void AtomicFile::write(const String& path, std::string_view content, Access ofNewFile)
 {
-    write(path, content, *makeSystemFileOperations());
+    write(path, content, *makeSystemFileOperations(), ofNewFile);
 }
 
-void AtomicFile::write(const String& path, std::string_view content, FileOperations& operations)
+void AtomicFile::write(const String& path, std::string_view content, FileOperations& operations, Access ofNewFile)
 {
     switch (operations.kind(path))
     {
@@ -138,7 +138,7 @@ void AtomicFile::write(const String& path, std::string_view content, FileOperati
     }
     operations.removeOldSides(path);
 
-    SideFile side(path, operations);
+    SideFile side(path, operations, ofNewFile);
     check(operations.write(content), path, L"its new content cannot be written");
     check(operations.flush(), path, L"its new content cannot be brought to the disk");
     check(operations.close(), path, L"its new content cannot be brought to the disk");

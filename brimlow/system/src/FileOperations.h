@@ -1,5 +1,6 @@
 #pragma once
 
+#include "brimlow/system/AtomicFile.h"
 #include "brimlow/system/Exception.h"
 #include "brimlow/system/String.h"
 
@@ -31,9 +32,9 @@ class FileOperations
     // Success too when the folder is there already.
     virtual SystemError makeFolder(const String& folder) = 0;
 
-    // Makes a new file, refusing an existing one, with the access list of model from the first moment on (with the
-    // folder's usual one when model is empty). It stays open for write, flush and close.
-    virtual SystemError createSide(const String& side, const String& model) = 0;
+    // Makes a new file, refusing an existing one, with the access list of model from the first moment on (with that of
+    // a new file when model is empty). It stays open for write, flush and close.
+    virtual SystemError createSide(const String& side, const String& model, Access ofNewFile) = 0;
     virtual SystemError write(std::string_view content) = 0;
     // Returns when the content is on the disk.
     virtual SystemError flush() = 0;

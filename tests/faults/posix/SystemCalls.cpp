@@ -1,15 +1,16 @@
 #include "SystemCalls.h"
 
-#include "Machine.h"
 #include "SystemCall.h"
 
 #include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstddef>
+#include <cstdlib>
 #include <cstring>
 #include <linux/filter.h>
 #include <linux/seccomp.h>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <sys/prctl.h>
@@ -19,9 +20,6 @@
 
 namespace
 {
-
-CutPoint* current = nullptr;
-std::string folder;
 
 int errorOf(Fault fault) noexcept
 {
@@ -51,8 +49,10 @@ long fail(const SystemCall& call, Fault fault) noexcept
 
 long answer(const SystemCall& call) noexcept
 {
-    const std::optional<Effect> effect = current ? call.effectIn(folder) : std::nullopt;
-    switch (effect ? current->next(*effect) : CutPoint::Verdict::goOn)
+    CutPoint* const point = SystemCalls::cutPoint();
+    // The folder that Machine uses, without asking for memory.
+    const std::optional<Effect> effect = point ? call.effectIn(std::getenv("PROGRAMDATA")) : std::nullopt;
+    switch (effect ? point->next(*effect) : CutPoint::Verdict::goOn)
     {
     case CutPoint::Verdict::goOn:
         break;
@@ -61,7 +61,7 @@ long answer(const SystemCall& call) noexcept
         call.makeHalf();
         [[fallthrough]];
     case CutPoint::Verdict::failBefore:
-        return fail(call, current->fault());
+        return fail(call, point->fault());
     }
     return call.make();
 }
@@ -110,15 +110,4 @@ void SystemCalls::watch()
     {
         throw std::runtime_error(std::string("the system calls cannot be watched: ") + std::strerror(errno));
     }
-}
-
-SystemCalls::Cut::Cut(CutPoint& point) noexcept
-{
-    folder = Machine::folder().string();
-    current = &point;
-}
-
-SystemCalls::Cut::~Cut()
-{
-    current = nullptr;
 }

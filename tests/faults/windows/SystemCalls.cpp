@@ -10,8 +10,6 @@
 namespace
 {
 
-CutPoint* current = nullptr;
-
 DWORD errorOf(Fault fault) noexcept
 {
     switch (fault)
@@ -68,21 +66,22 @@ class Watch<name, Result(Arguments...)>
   private:
     Result answer(Arguments... arguments) const
     {
-        switch (current ? current->next(m_effect(arguments...)) : CutPoint::Verdict::goOn)
+        CutPoint* const point = SystemCalls::cutPoint();
+        switch (point ? point->next(m_effect(arguments...)) : CutPoint::Verdict::goOn)
         {
         case CutPoint::Verdict::goOn:
             break;
         case CutPoint::Verdict::failBefore:
-            return fail(errorOf(current->fault()));
+            return fail(point->fault(), errorOf(point->fault()));
         case CutPoint::Verdict::failInTheMiddle:
-            return fail(m_half(arguments...));
+            return fail(point->fault(), m_half(arguments...));
         }
         return m_spy.callThrough(arguments...);
     }
 
-    static Result fail(DWORD error)
+    static Result fail(Fault fault, DWORD error)
     {
-        if (current->fault() == Fault::killed)
+        if (fault == Fault::killed)
         {
             TerminateProcess(GetCurrentProcess(), killedStatus);
         }
@@ -117,7 +116,6 @@ struct Watches
     const Watch<"FindFirstFileW", decltype(FindFirstFileW)> findFirstFile{Effect::looks};
     const Watch<"FindFirstFileExW", decltype(FindFirstFileExW)> findFirstFileEx{Effect::looks};
     const Watch<"FindNextFileW", decltype(FindNextFileW)> findNextFile{Effect::looks};
-    const Watch<"GetFullPathNameW", decltype(GetFullPathNameW)> getFullPathName{Effect::looks};
     const Watch<"GetDiskFreeSpaceW", decltype(GetDiskFreeSpaceW)> getDiskFreeSpace{Effect::looks};
     const Watch<"FlushFileBuffers", decltype(FlushFileBuffers)> flushFileBuffers{Effect::makes};
     const Watch<"CreateFileW", decltype(CreateFileW)> createFile{
@@ -146,14 +144,4 @@ struct Watches
 void SystemCalls::watch()
 {
     static const Watches watches;
-}
-
-SystemCalls::Cut::Cut(CutPoint& point) noexcept
-{
-    current = &point;
-}
-
-SystemCalls::Cut::~Cut()
-{
-    current = nullptr;
 }

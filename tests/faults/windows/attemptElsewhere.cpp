@@ -28,6 +28,24 @@ std::wstring commandLine(const Save& save, Fault fault, int point)
            std::to_wstring(point) + L" \"" + Machine::folder().wstring() + L'"';
 }
 
+// On a busy machine Wine does not come to start one program in thousands.
+platform::KernelHandle start(std::wstring line)
+{
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION started{};
+    for (int attempt = 1; attempt <= 3; ++attempt)
+    {
+        if (CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &started))
+        {
+            const platform::KernelHandle thread(started.hThread);
+            return platform::KernelHandle(started.hProcess);
+        }
+        std::cerr << "no process can be started, error " << GetLastError() << '\n';
+    }
+    throw std::runtime_error("no process can be started");
+}
+
 } // namespace
 
 bool isChildProgram(int argumentCount, wchar_t** arguments)
@@ -48,16 +66,7 @@ void runChildProgram(wchar_t** arguments)
 
 Attempt attemptElsewhere(const Save& save, Fault fault, int point)
 {
-    STARTUPINFOW startup{};
-    startup.cb = sizeof startup;
-    PROCESS_INFORMATION started{};
-    std::wstring line = commandLine(save, fault, point);
-    if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &started))
-    {
-        throw std::runtime_error("no process can be started");
-    }
-    const platform::KernelHandle process(started.hProcess);
-    const platform::KernelHandle thread(started.hThread);
+    const platform::KernelHandle process = start(commandLine(save, fault, point));
     WaitForSingleObject(process.get(), INFINITE);
     DWORD status = 0;
     GetExitCodeProcess(process.get(), &status);

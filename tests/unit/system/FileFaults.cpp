@@ -24,10 +24,10 @@ SystemError FileFaults::makeFolder(const String& folder)
     return error ? error : m_real->makeFolder(folder);
 }
 
-SystemError FileFaults::createSide(const String& side, const String& model)
+SystemError FileFaults::createSide(const String& side, const String& model, Core::IO::Access ofNewFile)
 {
     const SystemError error = m_before(++m_calls);
-    return error ? error : m_real->createSide(side, model);
+    return error ? error : m_real->createSide(side, model, ofNewFile);
 }
 
 SystemError FileFaults::write(std::string_view content)

@@ -30,7 +30,8 @@ class FileFaults final : public Core::IO::FileOperations
     Core::IO::FileKind kind(const Core::String& path) override;
     Core::SystemError read(const Core::String& path, std::string& content) override;
     Core::SystemError makeFolder(const Core::String& folder) override;
-    Core::SystemError createSide(const Core::String& side, const Core::String& model) override;
+    Core::SystemError createSide(const Core::String& side, const Core::String& model,
+                                 Core::IO::Access ofNewFile) override;
     // The half of the content is written before something happens.
     Core::SystemError write(std::string_view content) override;
     Core::SystemError flush() override;

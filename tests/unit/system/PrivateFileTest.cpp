@@ -1,6 +1,7 @@
 #include "brimlow/system/PrivateFile.h"
 #include "PrintTo.h"
 #include "TemporaryFolder.h"
+#include "brimlow/system/AtomicFile.h"
 #include "brimlow/system/Exception.h"
 #include "brimlow/system/FileSystem.h"
 #include "refusal.h"
@@ -22,6 +23,7 @@
 namespace
 {
 
+using Core::IO::AtomicFile;
 using Core::IO::makePrivateFile;
 using Core::IO::FileSystem::combinePath;
 
@@ -78,6 +80,16 @@ TEST(PrivateFile, LeavesWhatIsThereAsItIs)
     makePrivateFile(disk.path(L"new.db"));
     EXPECT_TRUE(isOpenToOthers(disk.folder()));
     EXPECT_FALSE(isOpenToOthers(disk.folder() / "new.db"));
+}
+
+TEST(PrivateFile, IsWhatIsWrittenAsOneWhereNoFileWas)
+{
+    const TemporaryFolder disk;
+    disk.write(L"old.p12", "old");
+    AtomicFile::write(disk.path(L"new.p12"), "new", Core::IO::Access::Private);
+    AtomicFile::write(disk.path(L"old.p12"), "new", Core::IO::Access::Private);
+    EXPECT_FALSE(isOpenToOthers(disk.folder() / "new.p12"));
+    EXPECT_TRUE(isOpenToOthers(disk.folder() / "old.p12"));
 }
 
 TEST(PrivateFile, CannotBeMadeWhereAFileIsInTheWay)

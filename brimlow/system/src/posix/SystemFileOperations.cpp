@@ -73,7 +73,7 @@ class SystemFileOperations final : public FileOperations
         return error == EEXIST ? 0 : error;
     }
 
-    SystemError createSide(const String& side, const String& model) override
+    SystemError createSide(const String& side, const String& model, Access ofNewFile) override
     {
         struct stat status;
         const bool hasModel = !model.empty();
@@ -81,7 +81,8 @@ class SystemFileOperations final : public FileOperations
         {
             return static_cast<SystemError>(errno);
         }
-        m_side = open(systemPath(side).c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, hasModel ? 0600 : 0666);
+        const mode_t mode = hasModel || ofNewFile == Access::Private ? 0600 : 0666;
+        m_side = open(systemPath(side).c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
         if (m_side < 0)
         {
             return static_cast<SystemError>(errno);

@@ -3,9 +3,9 @@
 #include "FileOperations.h"
 #include "brimlow/system/FileSystem.h"
 #include "parentFolder.h"
-#include "platform/handles.h"
+#include "privateAccess.h"
 
-#include <sddl.h>
+#include <utility>
 
 namespace Core::IO
 {
@@ -13,17 +13,12 @@ namespace Core::IO
 namespace
 {
 
-// "P" keeps the entries of the folder above out. BA is the group Administrators, SY is SYSTEM, FA is everything that
-// can be done with a file; OICI hands the entry on to what is made in the folder.
-constexpr wchar_t folderAccess[] = L"D:P(A;OICI;FA;;;BA)(A;OICI;FA;;;SY)";
-constexpr wchar_t fileAccess[] = L"D:P(A;;FA;;;BA)(A;;FA;;;SY)";
-
 class AccessList
 {
   public:
-    explicit AccessList(const wchar_t* text)
+    explicit AccessList(platform::LocalMemory descriptor) : m_descriptor(std::move(descriptor))
     {
-        if (!ConvertStringSecurityDescriptorToSecurityDescriptorW(text, SDDL_REVISION_1, m_descriptor.put(), nullptr))
+        if (!m_descriptor)
         {
             throw IOException(L"An access list cannot be made", GetLastError());
         }
@@ -46,14 +41,15 @@ void makePrivateFile(const String& path)
     const String folder = parentFolder(path);
     makeParentFolders(folder, *makeSystemFileOperations());
     // Asked first, because Windows refuses to make the top of a drive as if access to it were denied.
-    if (!FileSystem::folderExists(folder) && !CreateDirectoryW(folder.c_str(), AccessList(folderAccess).attributes()) &&
+    if (!FileSystem::folderExists(folder) &&
+        !CreateDirectoryW(folder.c_str(), AccessList(privateFolderAccess()).attributes()) &&
         GetLastError() != ERROR_ALREADY_EXISTS)
     {
         throw IOException(L"The folder \"" + folder + L"\" cannot be made", GetLastError());
     }
     const platform::FileHandle file(CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                                                AccessList(fileAccess).attributes(), CREATE_NEW, FILE_ATTRIBUTE_NORMAL,
-                                                nullptr));
+                                                AccessList(privateFileAccess()).attributes(), CREATE_NEW,
+                                                FILE_ATTRIBUTE_NORMAL, nullptr));
     if (!file && GetLastError() != ERROR_FILE_EXISTS)
     {
         throw IOException(L"The file \"" + path + L"\" cannot be made", GetLastError());

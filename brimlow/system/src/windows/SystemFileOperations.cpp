@@ -1,5 +1,6 @@
 #include "FileOperations.h"
 
+#include "privateAccess.h"
 #include "systemCalls.h"
 
 #include "platform/handles.h"
@@ -96,9 +97,10 @@ class SystemFileOperations final : public FileOperations
         return error == ERROR_ALREADY_EXISTS ? 0 : error;
     }
 
-    SystemError createSide(const String& side, const String& model) override
+    SystemError createSide(const String& side, const String& model, Access ofNewFile) override
     {
         std::vector<std::byte> descriptor;
+        platform::LocalMemory privateDescriptor;
         SECURITY_ATTRIBUTES attributes{sizeof attributes, nullptr, FALSE};
         if (!model.empty())
         {
@@ -109,6 +111,15 @@ class SystemFileOperations final : public FileOperations
                 return error;
             }
             attributes.lpSecurityDescriptor = descriptor.data();
+        }
+        else if (ofNewFile == Access::Private)
+        {
+            privateDescriptor = privateFileAccess();
+            if (!privateDescriptor)
+            {
+                return GetLastError();
+            }
+            attributes.lpSecurityDescriptor = privateDescriptor.get();
         }
         m_side.reset(
             CreateFileW(side.c_str(), GENERIC_WRITE, 0, &attributes, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
