@@ -33,30 +33,30 @@ FloorNode list(const wchar_t* name, std::function<std::vector<std::wstring>()> r
     return {.name = name, .columns = {L"Name"}, .read = std::move(read)};
 }
 
+// Of a collection with getAt.
+std::vector<std::wstring> displayNames(const auto& collection, int count)
+{
+    std::vector<std::wstring> names;
+    names.reserve(static_cast<std::size_t>(count));
+    for (int index = 0; index < count; ++index)
+    {
+        names.push_back(collection.getAt(index).getDisplayName().str());
+    }
+    return names;
+}
+
 std::vector<std::wstring> templateNames()
 {
     ServerTemplates applications;
     const ServerApplication& application = applications.getAt(0);
-    std::vector<std::wstring> names;
-    names.reserve(static_cast<std::size_t>(application.getTemplatesCount()));
-    for (int index = 0; index < application.getTemplatesCount(); ++index)
-    {
-        names.push_back(application.getAt(index).getDisplayName().str());
-    }
-    return names;
+    return displayNames(application, application.getTemplatesCount());
 }
 
 std::vector<std::wstring> fileNames()
 {
     ServerTemplates applications;
     const ResourcesFolder folder = applications.getAt(0).getResourceFolderAt(0);
-    std::vector<std::wstring> names;
-    names.reserve(static_cast<std::size_t>(folder.getCount()));
-    for (int index = 0; index < folder.getCount(); ++index)
-    {
-        names.push_back(folder.getAt(index).getDisplayName().str());
-    }
-    return names;
+    return displayNames(folder, folder.getCount());
 }
 
 std::vector<std::wstring> namesWithAccess()

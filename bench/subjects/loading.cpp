@@ -7,6 +7,7 @@
 #include "floor/FloorObject.h"
 #include "floorLists.h"
 #include "hotFolderFixture.h"
+#include "importedLibraries.h"
 #include "logFolder.h"
 #include "subjects/subjects.h"
 
@@ -54,13 +55,22 @@ void loadAndTakeDown(const CLSID& clsid, std::size_t applications)
     throw std::runtime_error("the tree does not have the applications");
 }
 
-// As for running, but without its start.
+// As for running, with the libraries of the system that it needs, but without its start.
 void mapLibrary(const std::wstring& library)
 {
     const HMODULE module = LoadLibraryExW(library.c_str(), nullptr, DONT_RESOLVE_DLL_REFERENCES);
     if (!module)
     {
         throw std::runtime_error("the library cannot be mapped");
+    }
+    std::vector<HMODULE> needed;
+    for (const char* const name : importedLibraries(module))
+    {
+        needed.push_back(LoadLibraryA(name));
+    }
+    for (const HMODULE system : needed)
+    {
+        FreeLibrary(system);
     }
     FreeLibrary(module);
 }

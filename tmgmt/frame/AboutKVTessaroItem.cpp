@@ -15,9 +15,7 @@ constexpr int buildYear = 2009;
 
 Core::String buildDate()
 {
-    Core::StringFormatStream date(L"{0} {1}, {2}");
-    date << buildMonth << buildDay << buildYear;
-    return date.getString();
+    return Core::format(L"{0} {1}, {2}", buildMonth, buildDay, buildYear);
 }
 
 } // namespace

@@ -68,9 +68,9 @@ void EditActionsDlg::remove()
     {
         return;
     }
-    Core::StringFormatStream question(L"Do you want to delete action '{0}'?");
-    question << actions[static_cast<std::size_t>(row)].getDescription();
-    if (showMessage(window(), question.getString().c_str(), L"Remove Action", MB_OKCANCEL | MB_ICONQUESTION) != IDOK)
+    const Core::String question =
+        Core::format(L"Do you want to delete action '{0}'?", actions[static_cast<std::size_t>(row)].getDescription());
+    if (showMessage(window(), question.c_str(), L"Remove Action", MB_OKCANCEL | MB_ICONQUESTION) != IDOK)
     {
         return;
     }

@@ -1,7 +1,6 @@
 #include "tmgmt/hotfolders/EditHotFolderDlg.h"
 
 #include "brimlow/system/Exception.h"
-#include "brimlow/system/StringFormatStream.h"
 #include "tmgmt/hotfolders/EditActionsDlg.h"
 #include "tmgmt/hotfolders/HotFolderSettingsDlg.h"
 #include "tmgmt/hotfolders/rules/OutputFormats.h"
@@ -15,13 +14,6 @@ namespace TMgmt
 {
 namespace
 {
-
-Core::String pageIndexText(int pageIndex)
-{
-    Core::StringFormatStream text(L"{0}");
-    text << pageIndex;
-    return text.getString();
-}
 
 // Shows the editor of a list of actions; nothing when it was cancelled.
 std::optional<HotFolders::ActionList> editActions(const HotFolders::ActionList& actions)
@@ -65,7 +57,7 @@ bool EditHotFolderDlg::onInit()
     setChecked(IDC_HOT_FOLDER_APPLY_STYLESHEET, stylesheet);
     enableStylesheet(stylesheet);
     EnableWindow(item(IDC_HOT_FOLDER_PAGE_INDEX), storedFormatHasPageIndex(hotFolder.getOutputFormat()));
-    setText(IDC_HOT_FOLDER_PAGE_INDEX, pageIndexText(hotFolder.getPageIndex()).str());
+    setText(IDC_HOT_FOLDER_PAGE_INDEX, std::to_wstring(hotFolder.getPageIndex()));
     setText(IDC_HOT_FOLDER_ON_SUCCESS, hotFolder.getOnSuccessActionList().getDescription().str());
     setText(IDC_HOT_FOLDER_ON_FAILURE, hotFolder.getOnFailureActionList().getDescription().str());
     return true;

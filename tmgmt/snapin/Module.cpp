@@ -9,10 +9,24 @@ Module& Module::instance() noexcept
     return module;
 }
 
-CSnapInItem* Module::findItem(MMC_COOKIE cookie) const noexcept
+void Module::itemGone(CSnapInItem* item) noexcept
+{
+    m_alive.erase(item);
+    if (m_lastFound == item)
+    {
+        m_lastFound = nullptr;
+    }
+}
+
+CSnapInItem* Module::findItem(MMC_COOKIE cookie) noexcept
 {
     auto* const item = reinterpret_cast<CSnapInItem*>(cookie);
-    return m_alive.contains(item) ? item : nullptr;
+    // The texts of a row are asked for one after the other.
+    if (item != m_lastFound)
+    {
+        m_lastFound = m_alive.contains(item) ? item : nullptr;
+    }
+    return m_lastFound;
 }
 
 } // namespace TMgmt

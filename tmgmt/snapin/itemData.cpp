@@ -25,6 +25,14 @@ void put(const std::wstring& text, std::vector<std::byte>& data)
     data.assign(bytes.begin(), bytes.end());
 }
 
+// "{XXXXXXXX-…}" with braces.
+std::wstring guidText(const GUID& guid)
+{
+    platform::TaskString text;
+    throwIfFailed(StringFromIID(guid, text.put()));
+    return text.get();
+}
+
 } // namespace
 
 HRESULT fillItemData(CLIPFORMAT format, const ItemData& item, std::vector<std::byte>& data)
@@ -50,13 +58,6 @@ HRESULT fillItemData(CLIPFORMAT format, const ItemData& item, std::vector<std::b
         return DV_E_CLIPFORMAT;
     }
     return S_OK;
-}
-
-std::wstring guidText(const GUID& guid)
-{
-    platform::TaskString text;
-    throwIfFailed(StringFromIID(guid, text.put()));
-    return text.get();
 }
 
 } // namespace TMgmt

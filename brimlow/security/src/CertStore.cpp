@@ -24,10 +24,9 @@ namespace
 
 [[noreturn]] void refuseMissing(const Certificate& certificate, const KeyStoreFile& file)
 {
-    throw Core::Exception((Core::StringFormatStream(L"The certificate of \"{0}\" with the serial number {1} is not in "
-                                                    L"the key store \"{2}\" any more. Please refresh the list.")
-                           << certificate.getSubjectCN() << certificate.getSerialNumber() << file.path())
-                              .getString());
+    throw Core::Exception(Core::format(L"The certificate of \"{0}\" with the serial number {1} is not in "
+                                       L"the key store \"{2}\" any more. Please refresh the list.",
+                                       certificate.getSubjectCN(), certificate.getSerialNumber(), file.path()));
 }
 
 } // namespace

@@ -26,7 +26,7 @@ using Core::IO::AtomicFile;
 
 [[noreturn]] void refuse(const wchar_t* sentence, const String& path, const String& more = {})
 {
-    throw Core::Exception((Core::StringFormatStream(sentence) << path << more).getString());
+    throw Core::Exception(Core::format(sentence, path, more));
 }
 
 // An empty file counts as missing: nothing is lost with it.

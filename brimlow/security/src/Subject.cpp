@@ -89,9 +89,8 @@ bool isAscii(const String& text) noexcept
 
 [[noreturn]] void refuse(const wchar_t* sentence, const Field& field, std::size_t length = 0)
 {
-    throw Core::Exception((Core::StringFormatStream(sentence)
-                           << field.label << static_cast<int>(field.maxLength) << static_cast<int>(length))
-                              .getString());
+    throw Core::Exception(
+        Core::format(sentence, field.label, static_cast<int>(field.maxLength), static_cast<int>(length)));
 }
 
 // The value in the form in which it goes into the certificate.

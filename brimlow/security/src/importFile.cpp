@@ -22,7 +22,7 @@ constexpr std::uintmax_t maxFileSize = std::uintmax_t{10} << 20;
 template <class Exception = Core::Exception>
 [[noreturn]] void refuse(const wchar_t* sentence, const String& fileName)
 {
-    throw Exception((Core::StringFormatStream(sentence) << fileName).getString());
+    throw Exception(Core::format(sentence, fileName));
 }
 
 std::string readFile(const String& fileName)

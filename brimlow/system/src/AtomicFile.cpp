@@ -2,6 +2,7 @@
 
 #include "FileOperations.h"
 #include "parentFolder.h"
+#include "retry.h"
 
 #include <random>
 
@@ -10,9 +11,6 @@ namespace Core::IO
 
 namespace
 {
-
-// With the pause of 100 ms between them: half a second.
-constexpr int maxAttempts = 6;
 
 String backupPath(const String& path)
 {
@@ -51,23 +49,25 @@ void check(SystemError error, const String& path, const wchar_t* failure)
     }
 }
 
+SystemError retry(FileOperations& operations, const auto& call)
+{
+    return IO::retry(
+        call, [&](SystemError error) { return operations.mayPass(error); }, [&] { operations.pause(); });
+}
+
 // The side file, removed unless it took the target's place.
 class SideFile
 {
   public:
     SideFile(const String& target, FileOperations& operations, Access ofNewFile) : m_operations(operations)
     {
-        SystemError error = 0;
-        for (int attempt = 1; attempt <= maxAttempts; ++attempt)
-        {
-            m_path = newSidePath(target);
-            error = operations.createSide(m_path, findContent(target, operations), ofNewFile);
-            if (!error || !operations.mayPass(error))
-            {
-                break;
-            }
-            operations.pause();
-        }
+        const SystemError error =
+            retry(operations,
+                  [&]
+                  {
+                      m_path = newSidePath(target);
+                      return operations.createSide(m_path, findContent(target, operations), ofNewFile);
+                  });
         check(error, target, L"a file beside it cannot be made");
     }
     SideFile(const SideFile&) = delete;
@@ -92,18 +92,13 @@ class SideFile
 
 SystemError place(const String& side, const String& path, FileOperations& operations)
 {
-    for (int attempt = 1;; ++attempt)
-    {
-        // Asked anew each time: an attempt that failed half-way may have taken the target away.
-        const SystemError error = operations.kind(path) == FileKind::None
-                                      ? operations.move(side, path)
-                                      : operations.replace(path, side, backupPath(path));
-        if (!error || !operations.mayPass(error) || attempt == maxAttempts)
-        {
-            return error;
-        }
-        operations.pause();
-    }
+    return retry(operations,
+                 [&]
+                 {
+                     // Asked anew each time: an attempt that failed half-way may have taken the target away.
+                     return operations.kind(path) == FileKind::None ? operations.move(side, path)
+                                                                    : operations.replace(path, side, backupPath(path));
+                 });
 }
 
 void bringBack(const String& path, FileOperations& operations)

@@ -25,9 +25,7 @@ void Exception::logError() const noexcept
             writeErrorLog(m_message);
             return;
         }
-        StringFormatStream text(L"{0} ({1}, line {2})");
-        text << m_message << m_file << m_line;
-        writeErrorLog(text.getString());
+        writeErrorLog(format(L"{0} ({1}, line {2})", m_message, m_file, m_line));
     }
     catch (...)
     {

@@ -94,11 +94,6 @@ String parentOf(const String& relative)
     return parent;
 }
 
-String sentence(const wchar_t* text, const String& path)
-{
-    return Core::format(text, path);
-}
-
 } // namespace
 
 struct MoveJournal::Pending
@@ -126,8 +121,8 @@ void MoveJournal::move(Connection& connection, const Move& move) const
     if (!id.step())
     {
         throw Database::DatabaseException(
-            sentence(L"The database \"{0}\" is damaged (last_move is empty). Please restore it from a backup.",
-                     m_database.path));
+            Core::format(L"The database \"{0}\" is damaged (last_move is empty). Please restore it from a backup.",
+                         m_database.path));
     }
     const String text = toHex(id.getRandomId(0)) + L"\n" + move.from + L"\n" + move.to + L"\n";
     Core::IO::AtomicFile::write(m_path, toBytes(text));
@@ -135,9 +130,10 @@ void MoveJournal::move(Connection& connection, const Move& move) const
     const Core::SystemError error = m_files.move(move.from, move.to);
     if (FileTree::isTaken(error))
     {
-        throw Core::Exception(sentence(L"There is already a file or folder \"{0}\", although it is not in the list. "
-                                       L"Please move it elsewhere first.",
-                                       m_files.pathOf(move.to)));
+        throw Core::Exception(
+            Core::format(L"There is already a file or folder \"{0}\", although it is not in the list. "
+                         L"Please move it elsewhere first.",
+                         m_files.pathOf(move.to)));
     }
     if (error)
     {
@@ -160,7 +156,7 @@ void MoveJournal::settle(const Connection& connection) const
         if (error && !FileTree::isNotFound(error) && !FileTree::isTaken(error))
         {
             throw Core::IOException(
-                sentence(L"An interrupted change of \"{0}\" cannot be undone", m_files.pathOf(pending->to)), error);
+                Core::format(L"An interrupted change of \"{0}\" cannot be undone", m_files.pathOf(pending->to)), error);
         }
         const String& left = isMade ? pending->to : pending->from;
         if (isTemporaryName(nameIn(left)))

@@ -99,25 +99,6 @@ std::vector<std::wstring> CertificatesTest::remembered()
     return values;
 }
 
-void CertificatesTest::openNode(int views)
-{
-    open(views);
-    for (int number = 0; number < views; ++number)
-    {
-        view(static_cast<std::size_t>(number)).select(node);
-    }
-}
-
-std::vector<std::wstring> CertificatesTest::names(std::size_t number)
-{
-    std::vector<std::wstring> names;
-    for (const auto& row : view(number).rows())
-    {
-        names.push_back(row.at(2));
-    }
-    return names;
-}
-
 void CertificatesTest::wizard(const wchar_t* caption, std::function<void(WizardWindow&)> use,
                               std::source_location where)
 {

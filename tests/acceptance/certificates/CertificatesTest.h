@@ -68,9 +68,9 @@ class CertificatesTest : public ConsoleTest
     static std::vector<std::wstring> remembered();
 
     // Opens the console and shows the node.
-    void openNode(int views = 1);
-    // The columns that differ: who the certificates are for.
-    std::vector<std::wstring> names(std::size_t view = 0);
+    void openNode(int views = 1) { openAt(node, views); }
+    // The column that differs: who the certificates are for.
+    std::vector<std::wstring> names(std::size_t view = 0) { return ConsoleTest::names(view, 2); }
 
     // The robot's next step: the wizard comes up, or is in front again, with that page.
     void wizard(const wchar_t* caption, std::function<void(WizardWindow&)> use,

@@ -21,7 +21,7 @@ class FontDialog : public FontsTest
     void SetUp() override
     {
         FontsTest::SetUp();
-        preferNoRestart();
+        Registry::preferRestart(false);
     }
 
     void openEditor() { view().runNodeCommand(node, addCommand); }
@@ -39,7 +39,7 @@ class FontDialog : public FontsTest
 
 TEST_F(FontDialog, hasItsTexts)
 {
-    openAt();
+    openNode();
     cancelAfter(
         [](ModalWindow& dialog)
         {
@@ -64,7 +64,7 @@ TEST_F(FontDialog, hasItsTexts)
 
 TEST_F(FontDialog, isWalkedThroughFromTheFileToCancel)
 {
-    openAt();
+    openNode();
     cancelAfter(
         [](ModalWindow& dialog)
         {
@@ -84,7 +84,7 @@ TEST_F(FontDialog, isWalkedThroughFromTheFileToCancel)
 
 TEST_F(FontDialog, refusesAnEmptyFamilyFirstAndStaysOpenWithItsInput)
 {
-    openAt();
+    openNode();
     editor([](ModalWindow& dialog) { dialog.press(IDOK); });
     refusal(emptyFamily);
     editor(
@@ -118,7 +118,7 @@ TEST_F(FontDialog, refusesAnEmptyFamilyFirstAndStaysOpenWithItsInput)
 
 TEST_F(FontDialog, writesNothingWhenItIsCancelledAfterARefusal)
 {
-    openAt();
+    openNode();
     enter({.family = L"Arial", .file = L""});
     refusal(emptyFile);
     editor([](ModalWindow& dialog) { dialog.press(IDCANCEL); });
@@ -128,7 +128,7 @@ TEST_F(FontDialog, writesNothingWhenItIsCancelledAfterARefusal)
 
 TEST_F(FontDialog, confirmsWithTheEnterKey)
 {
-    openAt();
+    openNode();
     editor(
         [](ModalWindow& dialog)
         {
@@ -143,7 +143,7 @@ TEST_F(FontDialog, confirmsWithTheEnterKey)
 TEST_F(FontDialog, keepsAPathOfThousandsOfCharacters)
 {
     const std::wstring path(5000, L'p');
-    openAt();
+    openNode();
     add({.family = L"Arial", .file = path});
     EXPECT_EQ(path, stored(L"MapFont:ARIAL"));
     EXPECT_EQ(path, view().cell(L"ARIAL", L"Font File Path"));
@@ -203,7 +203,7 @@ class FontBrowse : public FontDialog
 
 TEST_F(FontBrowse, asksTheSystemForAFile)
 {
-    openAt();
+    openNode();
     OpenSpy spy(
         [&](OPENFILENAMEW* request)
         {
@@ -230,7 +230,7 @@ TEST_F(FontBrowse, takesTheFileThatIsChosen)
 {
     const std::wstring file = windowsFile(L"win.ini");
     ASSERT_NE(INVALID_FILE_ATTRIBUTES, GetFileAttributesW(file.c_str()));
-    openAt();
+    openNode();
     browseFrom(L"");
     fileDialog(
         [&](FileDialog& dialog)
@@ -253,7 +253,7 @@ TEST_F(FontBrowse, takesTheFileThatIsChosen)
 
 TEST_F(FontBrowse, changesNothingWhenItIsCancelled)
 {
-    openAt();
+    openNode();
     browseFrom(windowsFile(L"win.ini"));
     fileDialog(
         [](FileDialog& dialog)
@@ -269,7 +269,7 @@ TEST_F(FontBrowse, opensWithoutANameForATextThatIsNoPath)
 {
     for (const std::wstring& initial : {std::wstring(L"a<b>|\"c\"?*"), std::wstring(259, L'p') + L".ttf"})
     {
-        openAt();
+        openNode();
         browseFrom(initial);
         fileDialog([](FileDialog& dialog) { dialog.cancel(); });
         expectFile(initial);
@@ -281,7 +281,7 @@ TEST_F(FontBrowse, opensWithoutANameForATextThatIsNoPath)
 // Windows refuses such a text where Wine passes it over.
 TEST_F(FontBrowse, opensWithoutTheNameThatTheSystemRefuses)
 {
-    openAt();
+    openNode();
     bool refused = false;
     OpenSpy open(
         [&](OPENFILENAMEW* request)
@@ -302,7 +302,7 @@ TEST_F(FontBrowse, leavesTheCurrentFolderOfTheConsoleAlone)
 {
     const std::filesystem::path folder = ServerFiles::programFolder();
     std::filesystem::current_path(folder);
-    openAt();
+    openNode();
     browseFrom(L"");
     fileDialog([](FileDialog& dialog) { dialog.choose(windowsFile(L"win.ini")); });
     expectFile(windowsFile(L"win.ini"));
@@ -313,7 +313,7 @@ TEST_F(FontBrowse, leavesTheCurrentFolderOfTheConsoleAlone)
 // Wine's dialog cannot hold a path that is too long itself, so its room is made smaller on the way.
 TEST_F(FontBrowse, saysThatAPathIsTooLong)
 {
-    openAt();
+    openNode();
     OpenSpy spy(
         [&](OPENFILENAMEW* request)
         {

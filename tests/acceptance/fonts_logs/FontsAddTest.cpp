@@ -12,7 +12,7 @@ class FontsAdd : public FontsTest
 
 TEST_F(FontsAdd, opensAnEmptyEditor)
 {
-    openAt();
+    openNode();
     editor(
         [this](ModalWindow& dialog)
         {
@@ -29,7 +29,7 @@ TEST_F(FontsAdd, opensAnEmptyEditor)
 
 TEST_F(FontsAdd, storesTheKeyInUpperCaseAndShowsIt)
 {
-    openAt();
+    openNode();
     add({.family = L"Arial", .file = L"C:\\Fonts\\Arial.ttf", .bold = true, .italic = true});
     EXPECT_EQ((Entries{{L"MapFont:ARIAL-BOLD-ITALIC", L"C:\\Fonts\\Arial.ttf"}}), stored());
     EXPECT_EQ((std::vector<Cells>{{L"ARIAL", L"C:\\Fonts\\Arial.ttf", L"Yes", L"Yes"}}), view().rows());
@@ -37,7 +37,7 @@ TEST_F(FontsAdd, storesTheKeyInUpperCaseAndShowsIt)
 
 TEST_F(FontsAdd, storesEachStyleUnderItsOwnKey)
 {
-    openAt();
+    openNode();
     add({.family = L"Arial", .file = L"1"});
     add({.family = L"Arial", .file = L"2", .bold = true});
     add({.family = L"Arial", .file = L"3", .italic = true});
@@ -49,7 +49,7 @@ TEST_F(FontsAdd, storesEachStyleUnderItsOwnKey)
 TEST_F(FontsAdd, replacesTheFileOfAnExistingKeyInItsPlace)
 {
     store({{L"MapFont:ARIAL", L"old"}, {L"MapFont:B", L"b"}});
-    openAt();
+    openNode();
     add({.family = L"aRIAL", .file = L"new"});
     EXPECT_EQ((Entries{{L"MapFont:ARIAL", L"new"}, {L"MapFont:B", L"b"}}), stored());
     EXPECT_EQ(L"new", view().cell(L"ARIAL", L"Font File Path"));
@@ -57,7 +57,7 @@ TEST_F(FontsAdd, replacesTheFileOfAnExistingKeyInItsPlace)
 
 TEST_F(FontsAdd, takesTextsAsTheyAre)
 {
-    openAt();
+    openNode();
     const struct
     {
         const wchar_t* family;
@@ -81,7 +81,7 @@ TEST_F(FontsAdd, takesTextsAsTheyAre)
 
 TEST_F(FontsAdd, writesNothingWhenItIsCancelled)
 {
-    openAt();
+    openNode();
     recorder.forgetCalls();
     const auto cancelWith = [this](auto leave)
     {
@@ -104,7 +104,7 @@ TEST_F(FontsAdd, writesNothingWhenItIsCancelled)
 
 TEST_F(FontsAdd, neitherReadsNorWritesTheRestartPreferenceAndNeverRestarts)
 {
-    openAt();
+    openNode();
     editor(
         [](ModalWindow& dialog)
         {
@@ -121,7 +121,7 @@ TEST_F(FontsAdd, neitherReadsNorWritesTheRestartPreferenceAndNeverRestarts)
 
 TEST_F(FontsAdd, selectsTheNodeAndThenTellsEveryView)
 {
-    openAt();
+    openNode();
     view().select(L"Log");
     recorder.forgetCalls();
     add({.family = L"Arial", .file = L"a.ttf"});
@@ -138,7 +138,7 @@ TEST_F(FontsAdd, selectsTheNodeAndThenTellsEveryView)
 TEST_F(FontsAdd, keepsWhatOthersWroteWhileTheEditorWasOpen)
 {
     store({{L"MapFont:A", L"1"}});
-    openAt();
+    openNode();
     editor(
         [](ModalWindow& dialog)
         {

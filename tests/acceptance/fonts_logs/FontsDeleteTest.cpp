@@ -12,7 +12,7 @@ class FontsDelete : public FontsTest
     void SetUp() override
     {
         FontsTest::SetUp();
-        preferNoRestart();
+        Registry::preferRestart(false);
     }
 };
 
@@ -20,7 +20,7 @@ class FontsDelete : public FontsTest
 TEST_F(FontsDelete, takesTheEntryOutWithoutAsking)
 {
     store({{L"MapFont:A-BOLD", L"1"}, {L"MapFont:B-ITALIC", L"2"}, {L"MapFont:C-BOLD-ITALIC", L"3"}});
-    openAt();
+    openNode();
     view().pressDelete(L"B");
     EXPECT_EQ((Entries{{L"MapFont:A-BOLD", L"1"}, {L"MapFont:C-BOLD-ITALIC", L"3"}}), stored());
     const std::vector<Cells> rows{{L"A", L"1", L"Yes", L"No"}, {L"C", L"3", L"Yes", L"Yes"}};
@@ -34,7 +34,7 @@ TEST_F(FontsDelete, takesTheEntryOutWithoutAsking)
 TEST_F(FontsDelete, makesTheFileWhereItIsGoneMeanwhile)
 {
     store({{L"MapFont:A", L"1"}});
-    openAt();
+    openNode();
     ServerFiles::reset();
     view().pressDelete(L"A");
     ASSERT_TRUE(fileExists());
@@ -45,7 +45,7 @@ TEST_F(FontsDelete, makesTheFileWhereItIsGoneMeanwhile)
 TEST_F(FontsDelete, keepsWhatOthersWroteMeanwhile)
 {
     store({{L"MapFont:A", L"1"}});
-    openAt();
+    openNode();
     store({{L"MapFont:A", L"changed"}, {L"MapFont:B", L"2"}, {L"MapAlias:X", L"A"}});
     view().pressDelete(L"A");
     EXPECT_EQ((Entries{{L"MapFont:B", L"2"}, {L"MapAlias:X", L"A"}}), stored());
@@ -55,7 +55,7 @@ TEST_F(FontsDelete, keepsWhatOthersWroteMeanwhile)
 TEST_F(FontsDelete, enablesTheVerbOnlyWhileARowIsSelected)
 {
     store({{L"MapFont:A", L"1"}});
-    openAt();
+    openNode();
     EXPECT_TRUE(view().canDelete(L"A"));
     for (const MMC_CONSOLE_VERB verb :
          {MMC_VERB_PROPERTIES, MMC_VERB_RENAME, MMC_VERB_COPY, MMC_VERB_PASTE, MMC_VERB_REFRESH})
@@ -70,7 +70,7 @@ TEST_F(FontsDelete, doesNotWriteThePreference)
 {
     Registry::reset();
     store({{L"MapFont:A", L"1"}});
-    openAt();
+    openNode();
     // No service is there to be stopped and started.
     for (int i = 0; i < 2; ++i)
     {

@@ -16,7 +16,7 @@ class FontsEdit : public FontsTest
     void SetUp() override
     {
         FontsTest::SetUp();
-        preferNoRestart();
+        Registry::preferRestart(false);
     }
 };
 
@@ -24,7 +24,7 @@ class FontsEdit : public FontsTest
 TEST_F(FontsEdit, opensWithTheRowAndThePreference)
 {
     store({{L"MapFont:ARIAL-ITALIC", L"C:\\a.ttf"}, {L"MapFont:B-BOLD", L"b"}});
-    openAt();
+    openNode();
     for (const bool restart : {false, true})
     {
         Registry::setRestartPreference({REG_SZ, restart ? L"true" : L"false"});
@@ -53,7 +53,7 @@ TEST_F(FontsEdit, opensWithTheRowAndThePreference)
 TEST_F(FontsEdit, putsANewKeyInPlaceOfTheOldOne)
 {
     store({{L"MapFont:ARIAL-BOLD", L"a"}, {L"MapFont:B", L"b"}});
-    openAt();
+    openNode();
     edit(L"ARIAL", {.family = L"Frutiger", .file = L"f", .italic = true});
     EXPECT_EQ((Entries{{L"MapFont:B", L"b"}, {L"MapFont:FRUTIGER-ITALIC", L"f"}}), stored());
     const std::vector<Cells> rows{{L"B", L"b", L"No", L"No"}, {L"FRUTIGER", L"f", L"No", L"Yes"}};
@@ -63,7 +63,7 @@ TEST_F(FontsEdit, putsANewKeyInPlaceOfTheOldOne)
 TEST_F(FontsEdit, movesAnUnchangedFontToTheEnd)
 {
     store({{L"MapFont:A", L"a"}, {L"MapFont:B", L"b"}});
-    openAt();
+    openNode();
     editor([](ModalWindow& dialog) { dialog.press(IDOK); });
     view().runCommand(L"A", editCommand);
     EXPECT_EQ((Entries{{L"MapFont:B", L"b"}, {L"MapFont:A", L"a"}}), stored());
@@ -73,7 +73,7 @@ TEST_F(FontsEdit, movesAnUnchangedFontToTheEnd)
 TEST_F(FontsEdit, replacesAnotherFontOfTheNewKey)
 {
     store({{L"MapFont:A", L"a"}, {L"MapFont:B", L"b"}});
-    openAt();
+    openNode();
     edit(L"A", {.family = L"B", .file = L"a"});
     EXPECT_EQ((Entries{{L"MapFont:B", L"a"}}), stored());
 }
@@ -82,7 +82,7 @@ TEST_F(FontsEdit, writesNeitherFileNorPreferenceWhenItIsCancelled)
 {
     store({{L"MapFont:ARIAL", L"a"}});
     const std::string before = ServerFiles::read(file());
-    openAt();
+    openNode();
     recorder.forgetCalls();
     const auto cancelWith = [this](auto leave)
     {
@@ -126,7 +126,7 @@ class FontsForeignKey : public FontsEdit, public testing::WithParamInterface<For
 TEST_P(FontsForeignKey, staysBesideTheNewEntryOfAnEdit)
 {
     store({{GetParam().key, L"old"}});
-    openAt();
+    openNode();
     editor(
         [](ModalWindow& dialog)
         {
@@ -140,7 +140,7 @@ TEST_P(FontsForeignKey, staysBesideTheNewEntryOfAnEdit)
 TEST_P(FontsForeignKey, staysAfterADeletion)
 {
     store({{GetParam().key, L"old"}});
-    openAt();
+    openNode();
     view().pressDelete(GetParam().row);
     EXPECT_EQ((Entries{{GetParam().key, L"old"}}), stored());
     EXPECT_EQ(1, view().view().rowCount());
@@ -158,7 +158,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(FontsEdit, findsAnEntryOfAnyScriptAgain)
 {
-    openAt();
+    openNode();
     add({.family = L"\u03C9\u044F\u00E4\u4E2D \u00DF", .file = L"1"});
     edit(L"\u03A9\u042F\u00C4\u4E2D \u00DF", {.family = L"x", .file = L"2"});
     EXPECT_EQ((Entries{{L"MapFont:X", L"2"}}), stored());
@@ -167,7 +167,7 @@ TEST_F(FontsEdit, findsAnEntryOfAnyScriptAgain)
 TEST_F(FontsEdit, leavesTheFileAloneOfWhatOthersChangedMeanwhile)
 {
     store({{L"MapFont:A", L"a"}});
-    openAt();
+    openNode();
     editor(
         [](ModalWindow& dialog)
         {
@@ -183,7 +183,7 @@ TEST_F(FontsEdit, leavesTheFileAloneOfWhatOthersChangedMeanwhile)
 TEST_F(FontsEdit, addsTheFontWhenItsEntryIsGoneMeanwhile)
 {
     store({{L"MapFont:A", L"a"}});
-    openAt();
+    openNode();
     editor(
         [](ModalWindow& dialog)
         {
@@ -197,7 +197,7 @@ TEST_F(FontsEdit, addsTheFontWhenItsEntryIsGoneMeanwhile)
 TEST_F(FontsEdit, deletesTheOldKeyThenWritesThePreferenceThenTheNewKey)
 {
     store({{L"MapFont:A", L"a"}, {L"MapFont:B", L"b"}});
-    openAt();
+    openNode();
     using PreferenceSpy = ImportSpy<"RegSetValueExW", decltype(RegSetValueExW)>;
     PreferenceSpy spy(
         [&](HKEY key, LPCWSTR name, DWORD reserved, DWORD type, const BYTE* data, DWORD size)
@@ -213,9 +213,9 @@ TEST_F(FontsEdit, deletesTheOldKeyThenWritesThePreferenceThenTheNewKey)
 
 TEST_F(FontsEdit, storesTheRestartBox)
 {
-    Registry::setRestartPreference({REG_SZ, L"true"});
+    Registry::preferRestart(true);
     store({{L"MapFont:A", L"a"}});
-    openAt();
+    openNode();
     editor(
         [](ModalWindow& dialog)
         {
@@ -232,7 +232,7 @@ TEST_F(FontsEdit, refusesWhatTheFileCannotHoldAndLosesNothing)
 {
     store({{L"MapFont:A", L"a"}});
     const std::string before = ServerFiles::read(file());
-    openAt();
+    openNode();
     editor(
         [](ModalWindow& dialog)
         {
@@ -250,7 +250,7 @@ TEST_F(FontsEdit, refusesWhatTheFileCannotHoldAndLosesNothing)
 TEST_F(FontsEdit, outlivesAListThatIsReadAnewMeanwhile)
 {
     store({{L"MapFont:A", L"a"}});
-    openAt();
+    openNode();
     editor(
         [this](ModalWindow& dialog)
         {
@@ -295,7 +295,7 @@ TEST_F(FontsEditCalls, passTheNodeItselfAsAHandleAndIgnoreTheAnswer)
 TEST_F(FontsEditCalls, areAnsweredWithAFailureByTheConsoleWhichStaysAsItIs)
 {
     store({{L"MapFont:A", L"a"}});
-    openAt();
+    openNode();
     recorder.forgetCalls();
     editor([](ModalWindow& dialog) { dialog.press(IDOK); });
     view().doubleClick(L"A");

@@ -13,7 +13,7 @@ class FontsFile : public FontsTest
     void SetUp() override
     {
         FontsTest::SetUp();
-        preferNoRestart();
+        Registry::preferRestart(false);
     }
 
     static std::string bytes() { return ServerFiles::read(file()); }
@@ -52,7 +52,7 @@ std::string fileWith(const std::string& line)
 TEST_F(FontsFile, losesNothingButTheEntryThatIsDeleted)
 {
     ServerFiles::write(file(), fileWith("    <add key=\"MapFont:A\" value=\"a\"/>\r\n"));
-    openAt();
+    openNode();
     view().pressDelete(L"A");
     EXPECT_EQ(fileWith(""), bytes());
 }
@@ -60,7 +60,7 @@ TEST_F(FontsFile, losesNothingButTheEntryThatIsDeleted)
 TEST_F(FontsFile, isTheSameAgainAfterAFontWasAddedEditedAndDeleted)
 {
     ServerFiles::write(file(), fileWith(""));
-    openAt();
+    openNode();
     add({.family = L"A", .file = L"a"});
     edit(L"A", {.family = L"B", .file = L"b", .bold = true});
     EXPECT_EQ(L"b", stored(L"MapFont:B-BOLD"));
@@ -71,14 +71,14 @@ TEST_F(FontsFile, isTheSameAgainAfterAFontWasAddedEditedAndDeleted)
 TEST_F(FontsFile, changesNothingButTheValueOfAnExistingKey)
 {
     ServerFiles::write(file(), fileWith("    <add key=\"MapFont:A\" value=\"a\"/>\r\n"));
-    openAt();
+    openNode();
     add({.family = L"A", .file = L"b"});
     EXPECT_EQ(fileWith("    <add key=\"MapFont:A\" value=\"b\"/>\r\n"), bytes());
 }
 
 TEST_F(FontsFile, isMadeWithItsFolderByTheFirstFont)
 {
-    openAt();
+    openNode();
     ASSERT_FALSE(std::filesystem::exists(ServerFiles::folder()));
     add({.family = L"A", .file = L"<a>"});
     std::string made = bytes();
@@ -134,7 +134,7 @@ TEST_F(FontsFile, thatWasRepairedIsReadAndWrittenAgain)
 {
     ServerFiles::write(file(), "<configuration>");
     fileReport();
-    openAt();
+    openNode();
     robot.finish();
     store({{L"MapFont:A", L"a"}});
     view().select(node);
@@ -145,7 +145,7 @@ TEST_F(FontsFile, thatWasRepairedIsReadAndWrittenAgain)
 
 TEST_F(FontsFile, thatBreaksAgainIsReportedAgain)
 {
-    openAt();
+    openNode();
     ServerFiles::write(file(), "<configuration>");
     fileReport();
     view().select(node);
@@ -161,7 +161,7 @@ TEST_F(FontsFile, thatBreaksAgainIsReportedAgain)
 TEST_F(FontsFile, thatBreaksBeforeAnEditOrADeletionIsConfirmedIsKeptAsItIs)
 {
     store({{L"MapFont:A", L"a"}});
-    openAt();
+    openNode();
     editor(
         [](ModalWindow& dialog)
         {
@@ -185,7 +185,7 @@ TEST_F(FontsFile, thatIsReadOnlyIsShownAndNotWritten)
     store({{L"MapFont:A", L"a"}});
     const std::string content = bytes();
     SetFileAttributesW(file().c_str(), FILE_ATTRIBUTE_READONLY);
-    openAt();
+    openNode();
     EXPECT_EQ(L"a", view().cell(L"A", L"Font File Path"));
     expectRefusedAdd();
     editor([](ModalWindow& dialog) { dialog.press(IDOK); });
@@ -204,7 +204,7 @@ TEST_F(FontsFile, thatIsLockedIsReportedAndNotWritten)
     {
         const ServerFiles::Lock lock(file());
         fileReport();
-        openAt();
+        openNode();
         robot.finish();
         EXPECT_TRUE(view().rows().empty());
         expectRefusedAdd();
@@ -219,7 +219,7 @@ TEST_F(FontsFile, isReportedByItselfWhereTheSettingsAreBrokenToo)
     robot.messageThat([](const MessageBoxSeen& box)
                       { EXPECT_NE(std::wstring::npos, box.text.find(ServerFiles::configuration().wstring())); });
     fileReport();
-    openAt();
+    openNode();
 }
 
 } // namespace

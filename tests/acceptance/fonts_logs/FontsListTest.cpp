@@ -15,7 +15,7 @@ class FontsList : public FontsTest
 
 TEST_F(FontsList, isEmptyWithoutAFile)
 {
-    openAt();
+    openNode();
     EXPECT_TRUE(view().rows().empty());
     EXPECT_FALSE(fileExists()) << "reading makes no file";
 }
@@ -23,20 +23,20 @@ TEST_F(FontsList, isEmptyWithoutAFile)
 TEST_F(FontsList, isEmptyForAnEmptyFile)
 {
     ServerFiles::write(file(), "");
-    openAt();
+    openNode();
     EXPECT_TRUE(view().rows().empty());
 }
 
 TEST_F(FontsList, isEmptyForAFileWithoutEntries)
 {
     store({});
-    openAt();
+    openNode();
     EXPECT_TRUE(view().rows().empty());
 }
 
 TEST_F(FontsList, hasItsColumnsAndDoesNotSort)
 {
-    openAt();
+    openNode();
     const std::vector<ConsoleView::Column> columns{
         {L"Font Family Name", 150}, {L"Font File Path", 350}, {L"Is Bold", 100}, {L"Is Italic", 100}};
     EXPECT_EQ(columns, view().columns());
@@ -69,7 +69,7 @@ TEST_F(FontsList, showsEachEntryInTheOrderOfTheFile)
            {L"MapFont:FRUTIGER", L"C:\\Fonts\\f.afm"},
            {L"MapFont:ARIAL-BOLD-ITALIC", L"\\\\server\\share\\a.otf"},
            {L"MapFont:ARIAL-BOLD", L"relative.pfm"}});
-    openAt();
+    openNode();
     const std::vector<Cells> rows{{L"ZAPF", L"C:\\Fonts\\z.ttf", L"No", L"Yes"},
                                   {L"FRUTIGER", L"C:\\Fonts\\f.afm", L"No", L"No"},
                                   {L"ARIAL", L"\\\\server\\share\\a.otf", L"Yes", L"Yes"},
@@ -83,7 +83,7 @@ TEST_F(FontsList, leavesAliasesOutAndShowsEveryOtherKeyOfOthers)
            {L"DefaultFont", L"x"},
            {L"MapAlias:ARIAL-BOLD", L"C:\\Fonts\\a.ttf"},
            {L"mapalias:HELV", L"y"}});
-    openAt();
+    openNode();
     const std::vector<Cells> rows{{L"DefaultFont", L"x", L"No", L"No"}, {L"mapalias:HELV", L"y", L"No", L"No"}};
     EXPECT_EQ(rows, view().rows());
 }
@@ -92,7 +92,7 @@ TEST_F(FontsList, leavesAliasesOutAndShowsEveryOtherKeyOfOthers)
 TEST_F(FontsList, takesBolditalicInOneWordForBoldOnly)
 {
     store({{L"MapFont:ARIAL-BOLDITALIC", L"a.ttf"}});
-    openAt();
+    openNode();
     EXPECT_EQ((std::vector<Cells>{{L"ARIAL", L"a.ttf", L"Yes", L"No"}}), view().rows());
 }
 
@@ -101,7 +101,7 @@ TEST_F(FontsList, takesBolditalicInOneWordForBoldOnly)
 TEST_F(FontsList, cutsAFamilyAtItsFirstDash)
 {
     store({{L"MapFont:MY-FONT", L"a.ttf"}, {L"MapFont:SEMI-BOLDFACE-ITALIC", L"b.ttf"}});
-    openAt();
+    openNode();
     const std::vector<Cells> rows{{L"MY", L"a.ttf", L"No", L"No"}, {L"SEMI", L"b.ttf", L"Yes", L"Yes"}};
     EXPECT_EQ(rows, view().rows());
 }
@@ -109,7 +109,7 @@ TEST_F(FontsList, cutsAFamilyAtItsFirstDash)
 TEST_F(FontsList, skipsAKeyOfThePrefixOnlyAndShowsDashesWithoutAFamily)
 {
     store({{L"MapFont:", L"a.ttf"}, {L"MapFont:--", L"b.ttf"}, {L"-", L"c.ttf"}, {L"MapFont:-BOLD", L"d.ttf"}});
-    openAt();
+    openNode();
     const std::vector<Cells> rows{
         {L"", L"b.ttf", L"No", L"No"}, {L"", L"c.ttf", L"No", L"No"}, {L"", L"d.ttf", L"Yes", L"No"}};
     EXPECT_EQ(rows, view().rows());
@@ -118,14 +118,14 @@ TEST_F(FontsList, skipsAKeyOfThePrefixOnlyAndShowsDashesWithoutAFamily)
 TEST_F(FontsList, showsAnEmptyFilePath)
 {
     store({{L"MapFont:ARIAL", L""}});
-    openAt();
+    openNode();
     EXPECT_EQ((std::vector<Cells>{{L"ARIAL", L"", L"No", L"No"}}), view().rows());
 }
 
 TEST_F(FontsList, showsNamesInAnyScript)
 {
     store({{L"MapFont:\u03A9\u042F\u4E2D\u05D0-ITALIC", L"C:\\\u00FC\U0001F600.ttf"}});
-    openAt();
+    openNode();
     const std::vector<Cells> rows{{L"\u03A9\u042F\u4E2D\u05D0", L"C:\\\u00FC\U0001F600.ttf", L"No", L"Yes"}};
     EXPECT_EQ(rows, view().rows());
 }
@@ -133,7 +133,7 @@ TEST_F(FontsList, showsNamesInAnyScript)
 TEST_F(FontsList, showsADoubledKeyOnceWithItsLastValue)
 {
     store({{L"MapFont:A", L"1"}, {L"MapFont:B", L"2"}, {L"MapFont:A", L"3"}});
-    openAt();
+    openNode();
     const std::vector<Cells> rows{{L"B", L"2", L"No", L"No"}, {L"A", L"3", L"No", L"No"}};
     EXPECT_EQ(rows, view().rows());
 }
@@ -157,14 +157,14 @@ TEST_F(FontsList, hasNothingInFurtherColumns)
 TEST_F(FontsList, givesItsFirstRowTheFocusAndSelectsIt)
 {
     store({{L"MapFont:A", L"1"}, {L"MapFont:B", L"2"}});
-    openAt();
+    openNode();
     EXPECT_EQ(0, view().view().focusedRow());
     EXPECT_EQ(std::vector<int>{0}, view().view().selectedRows());
 }
 
 TEST_F(FontsList, selectsNothingWhereItIsEmpty)
 {
-    openAt();
+    openNode();
     EXPECT_TRUE(view().view().selectedRows().empty());
     EXPECT_TRUE(recorder.calls(L"IResultData::ModifyItemState").empty());
 }
@@ -172,7 +172,7 @@ TEST_F(FontsList, selectsNothingWhereItIsEmpty)
 TEST_F(FontsList, offersOneCommandOnTheNodeAndOneOnARow)
 {
     store({{L"MapFont:A", L"1"}});
-    openAt();
+    openNode();
     EXPECT_EQ(Cells{addCommand}, view().nodeMenu(node));
     EXPECT_EQ((Cells{editCommand, L"-", L"&Delete"}), view().menu(L"A"));
     EXPECT_EQ(std::vector{topItem(addCommand, 1042)}, menuOfNode(node));
@@ -182,7 +182,7 @@ TEST_F(FontsList, offersOneCommandOnTheNodeAndOneOnARow)
 TEST_F(FontsList, readsTheFileWheneverItIsShown)
 {
     store({{L"MapFont:A", L"1"}});
-    openAt();
+    openNode();
     store({{L"MapFont:B", L"2"}});
     EXPECT_EQ(L"1", view().cell(L"A", L"Font File Path")) << "not behind the user's back";
     view().select(L"Log");
@@ -216,7 +216,7 @@ TEST_F(FontsList, shows10000Entries)
                              L"C:\\Fonts\\" + std::to_wstring(number) + L".ttf");
     }
     store(entries);
-    openAt();
+    openNode();
     ASSERT_EQ(10000, view().view().rowCount());
     EXPECT_EQ(L"FAMILY9999", view().view().rowText(9999, 0));
     EXPECT_EQ(L"C:\\Fonts\\9999.ttf", view().view().rowText(9999, 1));

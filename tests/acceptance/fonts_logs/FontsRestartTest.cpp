@@ -40,17 +40,17 @@ TEST_F(FontsRestart, followsAnEdit)
 {
     Service::start();
     const DWORD before = Service::processId();
-    openAt();
+    openNode();
     confirm(true);
     expectRestarted(before);
 }
 
 TEST_F(FontsRestart, followsAnEditWhoseBoxIsCheckedAnew)
 {
-    preferNoRestart();
+    Registry::preferRestart(false);
     Service::start();
     const DWORD before = Service::processId();
-    openAt();
+    openNode();
     confirm(true);
     expectRestarted(before);
     EXPECT_EQ((Registry::Value{REG_SZ, L"true"}), Registry::restartPreference());
@@ -60,7 +60,7 @@ TEST_F(FontsRestart, doesNotFollowAnEditWithTheBoxClear)
 {
     Service::start();
     const DWORD before = Service::processId();
-    openAt();
+    openNode();
     confirm(false);
     EXPECT_EQ(before, Service::processId());
     EXPECT_EQ((Registry::Value{REG_SZ, L"false"}), Registry::restartPreference());
@@ -70,7 +70,7 @@ TEST_F(FontsRestart, doesNotFollowACancelledEdit)
 {
     Service::start();
     const DWORD before = Service::processId();
-    openAt();
+    openNode();
     editor([](ModalWindow& dialog) { dialog.press(IDCANCEL); });
     view().doubleClick(L"A");
     EXPECT_EQ(before, Service::processId());
@@ -80,17 +80,17 @@ TEST_F(FontsRestart, followsADeletionWhereItIsPreferred)
 {
     Service::start();
     const DWORD before = Service::processId();
-    openAt();
+    openNode();
     view().pressDelete(L"A");
     expectRestarted(before);
 }
 
 TEST_F(FontsRestart, doesNotFollowADeletionWhereItIsNot)
 {
-    preferNoRestart();
+    Registry::preferRestart(false);
     Service::start();
     const DWORD before = Service::processId();
-    openAt();
+    openNode();
     view().pressDelete(L"A");
     EXPECT_EQ(before, Service::processId());
 }
@@ -99,14 +99,14 @@ TEST_F(FontsRestart, doesNotFollowANewFont)
 {
     Service::start();
     const DWORD before = Service::processId();
-    openAt();
+    openNode();
     add({.family = L"B", .file = L"b"});
     EXPECT_EQ(before, Service::processId());
 }
 
 TEST_F(FontsRestart, startsAServiceThatWasStopped)
 {
-    openAt();
+    openNode();
     confirm(true);
     EXPECT_EQ(static_cast<DWORD>(SERVICE_RUNNING), Service::state());
 }
@@ -115,7 +115,7 @@ TEST_F(FontsRestart, comesAfterTheNewListAndReportsWhatFails)
 {
     Service::reconfigure(L"--refuse-stop");
     Service::start();
-    openAt();
+    openNode();
     enter({.family = L"B", .file = L"b"});
     robot.messageThat(
         [this](const MessageBoxSeen& box)
@@ -134,7 +134,7 @@ TEST_F(FontsRestart, goesByWhatTheRegistrySaysAfterwards)
     Registry::makeUnwritable();
     Service::start();
     const DWORD before = Service::processId();
-    openAt();
+    openNode();
     confirm(false);
     expectRestarted(before);
 }

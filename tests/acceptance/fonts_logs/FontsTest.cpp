@@ -19,11 +19,6 @@ void fillIn(ModalWindow& dialog, const FontEntry& font)
 
 } // namespace
 
-void FontsTest::preferNoRestart()
-{
-    Registry::setRestartPreference({REG_SZ, L"false"});
-}
-
 std::filesystem::path FontsTest::file()
 {
     return ServerFiles::folder() / L"Common" / L"Config" / L"Fonts.config";
@@ -57,15 +52,6 @@ std::optional<std::wstring> FontsTest::stored(const std::wstring& key)
     configuration.loadFrom(file().wstring());
     Core::String value;
     return configuration.getValue(key, value) ? std::optional(value.str()) : std::nullopt;
-}
-
-void FontsTest::openAt(int views)
-{
-    ASSERT_NO_FATAL_FAILURE(open(views));
-    for (int number = 0; number < views; ++number)
-    {
-        view(static_cast<std::size_t>(number)).select(node);
-    }
 }
 
 void FontsTest::editor(Robot::Action action, std::source_location where)

@@ -41,9 +41,6 @@ class FontsTest : public ConsoleTest
     static constexpr wchar_t editCommand[] = L"&Edit Font...";
     static constexpr wchar_t productCaption[] = L"KV Tessaro 2010";
 
-    // Changes do not restart the service, which is not there anyway.
-    static void preferNoRestart();
-
     // Fonts.config, with these entries in this order.
     static std::filesystem::path file();
     static bool fileExists() { return std::filesystem::exists(file()); }
@@ -53,7 +50,7 @@ class FontsTest : public ConsoleTest
     static std::optional<std::wstring> stored(const std::wstring& key);
 
     // Opens the console and shows the node.
-    void openAt(int views = 1);
+    void openNode(int views = 1) { openAt(node, views); }
 
     // The robot's next step: the editor comes up (or is in front again) and the action uses it.
     void editor(Robot::Action action, std::source_location where = std::source_location::current());

@@ -12,9 +12,9 @@ class FontsInTwoViews : public FontsTest
     void SetUp() override
     {
         FontsTest::SetUp();
-        preferNoRestart();
+        Registry::preferRestart(false);
         store({{L"MapFont:A", L"1"}, {L"MapFont:B", L"2"}});
-        openAt(2);
+        openNode(2);
     }
 
     void expectInBoth(const std::vector<Cells>& rows)

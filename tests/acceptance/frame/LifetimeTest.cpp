@@ -122,7 +122,7 @@ TEST_F(Lifetime, theToolbarMayGoWhileTheStateCannotBeRead)
 // The editor of a setting is open in the first view; the console closes that view, or the second one.
 TEST_F(Lifetime, aViewMayGoWhileADialogIsOpen)
 {
-    Registry::setRestartPreference({REG_SZ, L"false"});
+    Registry::preferRestart(false);
     BareSnapIn snapIn;
     for (const bool own : {true, false})
     {

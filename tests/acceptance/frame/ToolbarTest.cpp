@@ -29,6 +29,12 @@ States enabled(bool start, bool stop)
 class Toolbar : public ConsoleTest
 {
   protected:
+    void SetUp() override
+    {
+        ConsoleTest::SetUp();
+        Service::useFreePort();
+    }
+
     // A view with the bar attached.
     struct Snap : BareSnapIn
     {

@@ -152,6 +152,8 @@ TEST_F(Views, aCookieOfANodeThatIsGoneIsRefused)
     {
         BareSnapIn gone;
         stale = gone.node(L"Log").lParam;
+        // The last one that was asked for.
+        EXPECT_EQ(L"Log", gone.displayName(stale));
     }
     IDataObject* object = nullptr;
     EXPECT_EQ(E_INVALIDARG, living.data->QueryDataObject(stale, CCT_SCOPE, &object));
@@ -171,7 +173,7 @@ TEST_F(Views, aCookieOfANodeThatIsGoneIsRefused)
 
 TEST_F(Views, inTwoWindowsOnOneNodeShowAnEdit)
 {
-    Registry::setRestartPreference({REG_SZ, L"false"});
+    Registry::preferRestart(false);
     open(2);
     view(0).select(L"Engine Settings\\Listener Configuration");
     view(1).select(L"Engine Settings\\Listener Configuration");
@@ -199,6 +201,7 @@ TEST_F(Views, inAWindowDoubleClickOnANodeListedAsARowOpensIt)
 
 TEST_F(Views, inAWindowTheTreesRowsStayWhenTheServiceIsStartedFromTheRoot)
 {
+    Service::useFreePort();
     Service::install();
     open();
     view().select(L"");

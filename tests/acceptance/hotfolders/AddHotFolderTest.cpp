@@ -37,7 +37,7 @@ TEST_F(AddHotFolder, storesWhatWasEnteredAndShowsIt)
 
 TEST_F(AddHotFolder, startsFromTheDefaultsWithTheRestartBoxClear)
 {
-    Registry::setRestartPreference({REG_SZ, L"true"});
+    Registry::preferRestart(true);
     openNode();
     editor(
         [](ModalWindow& dialog)
@@ -56,9 +56,9 @@ TEST_F(AddHotFolder, startsFromTheDefaultsWithTheRestartBoxClear)
 
 TEST_F(AddHotFolder, neitherWritesThePreferenceNorRestartsTheService)
 {
-    startService();
+    Service::startOnFreePort();
     const DWORD before = Service::processId();
-    Registry::setRestartPreference({REG_SZ, L"true"});
+    Registry::preferRestart(true);
     openNode();
     editor(
         [](ModalWindow& dialog)

@@ -32,8 +32,8 @@ TEST_F(DeleteHotFolder, asksNothingAndListsTheRest)
 
 TEST_F(DeleteHotFolder, doesNotRestartTheService)
 {
-    Registry::setRestartPreference({REG_SZ, L"true"});
-    startService();
+    Registry::preferRestart(true);
+    Service::startOnFreePort();
     const DWORD before = Service::processId();
     openNode();
     view().pressDelete(L"Invoices");

@@ -111,7 +111,7 @@ TEST_F(EditHotFolder, showsTheRestartPreference)
 {
     for (const bool preference : {true, false})
     {
-        Registry::setRestartPreference({REG_SZ, preference ? L"true" : L"false"});
+        Registry::preferRestart(preference);
         openNode();
         editor(
             [=](ModalWindow& dialog)
@@ -126,8 +126,8 @@ TEST_F(EditHotFolder, showsTheRestartPreference)
 
 TEST_F(EditHotFolder, withTheBoxClearStoresThatAndLeavesTheServiceAlone)
 {
-    Registry::setRestartPreference({REG_SZ, L"true"});
-    startService();
+    Registry::preferRestart(true);
+    Service::startOnFreePort();
     const DWORD before = Service::processId();
     openNode();
     edit(L"*.xml", false, IDOK);
@@ -138,7 +138,7 @@ TEST_F(EditHotFolder, withTheBoxClearStoresThatAndLeavesTheServiceAlone)
 
 TEST_F(EditHotFolder, withTheBoxTickedStoresThatAndRestartsTheService)
 {
-    startService();
+    Service::startOnFreePort();
     const DWORD before = Service::processId();
     openNode();
     edit(L"*.xml", true, IDOK);
@@ -154,7 +154,7 @@ TEST_F(EditHotFolder, thatTheLibraryRefusesStaysInTheRowAndRestartsNothing)
     HotFolders::HotFolder other = hotFolder(L"Invoices");
     other.setFileMatchPattern(L"*.xml");
     store(other);
-    startService();
+    Service::startOnFreePort();
     const DWORD before = Service::processId();
     openNode();
     edit(L"*.xml", true, IDOK);

@@ -9,7 +9,7 @@ using HotFolders::HotFolderCollection;
 void HotFoldersTest::SetUp()
 {
     ConsoleTest::SetUp();
-    Registry::setRestartPreference({REG_SZ, L"false"});
+    Registry::preferRestart(false);
 }
 
 std::wstring HotFoldersTest::folder(const std::wstring& name)
@@ -64,32 +64,6 @@ std::vector<std::wstring> HotFoldersTest::storedNames()
 std::filesystem::path HotFoldersTest::database()
 {
     return ServerFiles::folder() / L"Data" / L"HotFolders.db";
-}
-
-void HotFoldersTest::startService()
-{
-    Service::useFreePort();
-    Service::install();
-    Service::start();
-}
-
-void HotFoldersTest::openNode(int views)
-{
-    open(views);
-    for (int number = 0; number < views; ++number)
-    {
-        view(static_cast<std::size_t>(number)).select(node);
-    }
-}
-
-std::vector<std::wstring> HotFoldersTest::names(std::size_t number)
-{
-    std::vector<std::wstring> names;
-    for (const auto& row : view(number).rows())
-    {
-        names.push_back(row.front());
-    }
-    return names;
 }
 
 void HotFoldersTest::editor(Robot::Action action, std::source_location where)

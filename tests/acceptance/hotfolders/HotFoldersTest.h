@@ -48,12 +48,8 @@ class HotFoldersTest : public ConsoleTest
     static std::vector<std::wstring> storedNames();
     static std::filesystem::path database();
 
-    // Installs and starts the service, on a port of its own.
-    static void startService();
-
     // Opens the console and shows the node.
-    void openNode(int views = 1);
-    std::vector<std::wstring> names(std::size_t view = 0);
+    void openNode(int views = 1) { openAt(node, views); }
 
     // The robot's next step: the editor comes up (or is in front again) and the action uses it.
     void editor(Robot::Action action, std::source_location where = std::source_location::current());

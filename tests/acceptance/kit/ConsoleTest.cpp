@@ -59,12 +59,32 @@ void ConsoleTest::open(int views)
     }
 }
 
+void ConsoleTest::openAt(const std::wstring& node, int views)
+{
+    ASSERT_NO_FATAL_FAILURE(open(views));
+    for (ConsoleView& view : m_views)
+    {
+        view.select(node);
+    }
+}
+
 void ConsoleTest::close()
 {
     m_views.clear();
     m_host.reset();
     checkComplaints();
     checkUnload();
+}
+
+std::vector<std::wstring> ConsoleTest::names(std::size_t number, int column)
+{
+    const Console::View& shown = view(number).view();
+    std::vector<std::wstring> names;
+    for (int row = 0; row < shown.rowCount(); ++row)
+    {
+        names.push_back(shown.rowText(row, column));
+    }
+    return names;
 }
 
 void ConsoleTest::checkComplaints()

@@ -12,6 +12,8 @@
 
 #include <deque>
 #include <optional>
+#include <string>
+#include <vector>
 
 namespace Acceptance
 {
@@ -28,11 +30,15 @@ class ConsoleTest : public testing::Test
 
     // Opens a console with the plug-in and that many views on it, and loads the plug-in.
     void open(int views = 1);
+    // The same, and each view shows that node.
+    void openAt(const std::wstring& node, int views = 1);
     // Takes the console down and checks what it leaves; TearDown does it where the test did not.
     void close();
     bool isOpen() const { return m_host.has_value(); }
 
     ConsoleView& view(std::size_t number = 0) { return m_views.at(number); }
+    // What a column of the list says, from top to bottom.
+    std::vector<std::wstring> names(std::size_t view = 0, int column = 0);
     Console::Host& host() { return *m_host; }
 
     Frame frame;

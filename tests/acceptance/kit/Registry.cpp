@@ -54,6 +54,11 @@ void setRestartPreference(const Value& value)
     setRestartPreference(value.type, value.text.c_str(), static_cast<DWORD>((value.text.size() + 1) * sizeof(wchar_t)));
 }
 
+void preferRestart(bool restart)
+{
+    setRestartPreference({REG_SZ, restart ? L"true" : L"false"});
+}
+
 void setRestartPreference(DWORD type, const void* data, DWORD size)
 {
     const LSTATUS status = RegSetKeyValueW(HKEY_LOCAL_MACHINE, productKey, preferenceName, type, data, size);

@@ -25,6 +25,7 @@ void reset();
 // std::runtime_error for a text without its terminating null.
 std::optional<Value> restartPreference();
 void setRestartPreference(const Value& value);
+void preferRestart(bool restart);
 // Any bytes, for what is not a text.
 void setRestartPreference(DWORD type, const void* data, DWORD size);
 // Until the next reset nobody can make a lasting key below the family's.

@@ -251,4 +251,11 @@ void useFreePort()
                                                       std::to_string(freePort()) + "\"/>\r\n"));
 }
 
+void startOnFreePort()
+{
+    useFreePort();
+    install();
+    start();
+}
+
 } // namespace Acceptance::Service

@@ -24,6 +24,8 @@ DWORD processId();
 
 // Asks for the start and waits for SERVICE_RUNNING.
 void start();
+// Installs it and starts it on such a port as useFreePort finds.
+void startOnFreePort();
 // Sends a control (SERVICE_CONTROL_STOP, SERVICE_CONTROL_PAUSE, …) without waiting.
 void control(DWORD control);
 // Waits until the service is in that state. Fails the test after ten seconds.

@@ -16,7 +16,7 @@ class BrokenFile : public SettingsTest
     void SetUp() override
     {
         SettingsTest::SetUp();
-        preferNoRestart();
+        Registry::preferRestart(false);
     }
 
     // One box that belongs to no window, names the file and says more than its name; where the fault has a place in the

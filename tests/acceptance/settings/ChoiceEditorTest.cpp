@@ -25,7 +25,7 @@ class EnumEditor : public SettingsTest
     void SetUp() override
     {
         SettingsTest::SetUp();
-        preferNoRestart();
+        Registry::preferRestart(false);
     }
 
     void expectOptions(const wchar_t* node, const wchar_t* row, const std::vector<std::wstring>& labels)
@@ -136,7 +136,7 @@ class BoolEditor : public SettingsTest
     void SetUp() override
     {
         SettingsTest::SetUp();
-        preferNoRestart();
+        Registry::preferRestart(false);
     }
 };
 

@@ -15,7 +15,7 @@ class ConfigurationFile : public SettingsTest
     void SetUp() override
     {
         SettingsTest::SetUp();
-        preferNoRestart();
+        Registry::preferRestart(false);
     }
 
     void editPort(const wchar_t* text)

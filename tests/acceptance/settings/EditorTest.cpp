@@ -66,7 +66,7 @@ TEST_P(SettingEditor, opensWithNameDescriptionAndTheRestartCheckedOnAFreshMachin
 
 TEST_P(SettingEditor, storesAnotherValue)
 {
-    preferNoRestart();
+    Registry::preferRestart(false);
     openAt(setting().node);
     editor(
         [this](ModalWindow& dialog)
@@ -81,7 +81,7 @@ TEST_P(SettingEditor, storesAnotherValue)
 
 TEST_P(SettingEditor, isReachedByTheCommandToo)
 {
-    preferNoRestart();
+    Registry::preferRestart(false);
     openAt(setting().node);
     editor(
         [this](ModalWindow& dialog)
@@ -96,7 +96,7 @@ TEST_P(SettingEditor, isReachedByTheCommandToo)
 
 TEST_P(SettingEditor, storesTheDefaultExplicitlyWhenItIsConfirmed)
 {
-    preferNoRestart();
+    Registry::preferRestart(false);
     openAt(setting().node);
     editor([](ModalWindow& dialog) { dialog.press(IDOK); });
     view().doubleClick(setting().name);
@@ -106,7 +106,7 @@ TEST_P(SettingEditor, storesTheDefaultExplicitlyWhenItIsConfirmed)
 
 TEST_P(SettingEditor, deletesTheKeyOnReset)
 {
-    preferNoRestart();
+    Registry::preferRestart(false);
     store(setting().key, narrow(setting().otherValue));
     openAt(setting().node);
     editor([](ModalWindow& dialog) { dialog.press(Editor::reset); });
@@ -117,7 +117,7 @@ TEST_P(SettingEditor, deletesTheKeyOnReset)
 
 TEST_P(SettingEditor, makesTheFileOnResetWithoutTheKey)
 {
-    preferNoRestart();
+    Registry::preferRestart(false);
     openAt(setting().node);
     editor([](ModalWindow& dialog) { dialog.press(Editor::reset); });
     view().doubleClick(setting().name);
@@ -152,7 +152,7 @@ TEST_P(SettingEditor, leavesEverythingAloneWhenItIsCancelled)
 
 TEST_P(SettingEditor, confirmsWithTheEnterKey)
 {
-    preferNoRestart();
+    Registry::preferRestart(false);
     openAt(setting().node);
     editor([](ModalWindow& dialog) { dialog.key(VK_RETURN); });
     view().doubleClick(setting().name);

@@ -98,7 +98,7 @@ TEST_F(Restart, doesNotFollowWhenTheBoxIsUnchecked)
 
 TEST_F(Restart, followsWhenTheBoxIsCheckedAgain)
 {
-    preferNoRestart();
+    Registry::preferRestart(false);
     Service::start();
     const DWORD before = Service::processId();
     openAt(listener);

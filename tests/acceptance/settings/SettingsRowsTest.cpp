@@ -112,7 +112,7 @@ TEST_F(SettingsRows, keysThatOtherProgramsUseAreNotShown)
 
 TEST_F(SettingsRows, changesByOthersAreSeenOnlyWhereARowIsLoadedAgain)
 {
-    preferNoRestart();
+    Registry::preferRestart(false);
     openAt(listener);
     ServerFiles::write(ServerFiles::configuration(),
                        ServerFiles::configurationWith("    <add key=\"ServerPort\" value=\"3000\"/>\r\n"

@@ -8,25 +8,11 @@
 namespace Acceptance
 {
 
-void SettingsTest::preferNoRestart()
-{
-    Registry::setRestartPreference({REG_SZ, L"false"});
-}
-
 void SettingsTest::store(const std::wstring& key, const std::string& value)
 {
     ServerFiles::write(
         ServerFiles::configuration(),
         ServerFiles::configurationWith("    <add key=\"" + narrow(key) + "\" value=\"" + value + "\"/>\r\n"));
-}
-
-void SettingsTest::openAt(const std::wstring& node, int views)
-{
-    ASSERT_NO_FATAL_FAILURE(open(views));
-    for (int number = 0; number < views; ++number)
-    {
-        view(static_cast<std::size_t>(number)).select(node);
-    }
 }
 
 void SettingsTest::editor(Robot::Action action, std::source_location where)

@@ -29,12 +29,8 @@ class SettingsTest : public ConsoleTest
     static constexpr wchar_t log[] = L"Log";
     static constexpr wchar_t productCaption[] = L"KV Tessaro 2010";
 
-    // Edits do not restart the service, which is not there anyway.
-    static void preferNoRestart();
     // Writes a configuration file with one key.
     static void store(const std::wstring& key, const std::string& value);
-    // Opens the console and shows the node.
-    void openAt(const std::wstring& node, int views = 1);
 
     // The robot's next step: the editor comes up (or is in front again) and the action uses it.
     void editor(Robot::Action action, std::source_location where = std::source_location::current());

@@ -13,7 +13,7 @@ class TextEditor : public SettingsTest
     void SetUp() override
     {
         SettingsTest::SetUp();
-        preferNoRestart();
+        Registry::preferRestart(false);
     }
 
     // Opens the row's editor, types, confirms, and returns what is stored then.

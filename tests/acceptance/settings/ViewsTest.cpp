@@ -12,7 +12,7 @@ class SettingsInTwoViews : public SettingsTest
     void SetUp() override
     {
         SettingsTest::SetUp();
-        preferNoRestart();
+        Registry::preferRestart(false);
     }
 };
 

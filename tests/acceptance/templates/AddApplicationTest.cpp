@@ -134,8 +134,8 @@ TEST_F(AddApplication, isSeenInEveryView)
 
 TEST_F(AddApplication, doesNotRestartTheService)
 {
-    Registry::setRestartPreference({REG_SZ, L"true"});
-    startService();
+    Registry::preferRestart(true);
+    Service::startOnFreePort();
     const DWORD before = Service::processId();
     openAt(branch);
     enter(caption, name, L"Letters");

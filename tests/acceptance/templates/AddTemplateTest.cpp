@@ -130,8 +130,8 @@ TEST_F(AddTemplate, keepsTheEngineAndTheUsersThatOthersStoredMeanwhile)
 
 TEST_F(AddTemplate, doesNotRestartTheService)
 {
-    Registry::setRestartPreference({REG_SZ, L"true"});
-    startService();
+    Registry::preferRestart(true);
+    Service::startOnFreePort();
     const DWORD before = Service::processId();
     openAt(letters);
     add(makeFile(L"letter.kvd"));

@@ -99,8 +99,8 @@ TEST_F(DeleteApplication, whoseFolderIsGoneTakesItFromTheList)
 
 TEST_F(DeleteApplication, doesNotRestartTheService)
 {
-    Registry::setRestartPreference({REG_SZ, L"true"});
-    startService();
+    Registry::preferRestart(true);
+    Service::startOnFreePort();
     const DWORD before = Service::processId();
     openAt(branch);
     view().pressDelete(L"Bills");

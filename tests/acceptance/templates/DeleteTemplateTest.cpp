@@ -87,8 +87,8 @@ TEST_F(DeleteTemplate, thatIsGoneAlreadyListsTheRest)
 
 TEST_F(DeleteTemplate, doesNotRestartTheService)
 {
-    Registry::setRestartPreference({REG_SZ, L"true"});
-    startService();
+    Registry::preferRestart(true);
+    Service::startOnFreePort();
     const DWORD before = Service::processId();
     openAt(letters);
     view().pressDelete(L"letter.kvd");

@@ -175,8 +175,8 @@ TEST_F(EditApplication, isSeenInEveryView)
 
 TEST_F(EditApplication, doesNotRestartTheService)
 {
-    Registry::setRestartPreference({REG_SZ, L"true"});
-    startService();
+    Registry::preferRestart(true);
+    Service::startOnFreePort();
     const DWORD before = Service::processId();
     openAt(branch);
     enter(caption, name, L"Mail");

@@ -38,7 +38,7 @@ class RenameTemplate : public TemplatesTest
     // Confirms the dialog with that name while the service runs. Whether the service was restarted.
     bool restartsFor(const std::wstring& wanted)
     {
-        startService();
+        Service::startOnFreePort();
         const DWORD before = Service::processId();
         openAt(letters);
         rename(L"letter.kvd", wanted);
@@ -105,7 +105,7 @@ TEST_F(RenameTemplate, whoseNameIsInItsPathTwiceIsRenamedWhereItIs)
 
 TEST_F(RenameTemplate, restartsTheServiceWhereThePreferenceSaysSo)
 {
-    Registry::setRestartPreference({REG_SZ, L"true"});
+    Registry::preferRestart(true);
     EXPECT_TRUE(restartsFor(L"mail.kvd"));
     EXPECT_EQ((Registry::Value{REG_SZ, L"true"}), Registry::restartPreference());
 }
@@ -127,15 +127,15 @@ TEST_F(RenameTemplate, leavesTheServiceAloneWhereThePreferenceSaysFalse)
 // Proves: the service is restarted even when the template's name stayed what it was.
 TEST_F(RenameTemplate, restartsTheServiceEvenForTheSameName)
 {
-    Registry::setRestartPreference({REG_SZ, L"true"});
+    Registry::preferRestart(true);
     EXPECT_TRUE(restartsFor(L"letter.kvd"));
     EXPECT_THAT(storedTemplates(L"Letters"), ElementsAre(L"letter.kvd", L"reminder.kvd"));
 }
 
 TEST_F(RenameTemplate, cancelledChangesAndRestartsNothing)
 {
-    Registry::setRestartPreference({REG_SZ, L"true"});
-    startService();
+    Registry::preferRestart(true);
+    Service::startOnFreePort();
     const DWORD before = Service::processId();
     openAt(letters);
     robot.dialog(caption,
@@ -168,8 +168,8 @@ TEST_F(RenameTemplate, toTheNameOfAFileInTheFolderIsRefusedByTheDialog)
 
 TEST_F(RenameTemplate, toANameThatWindowsCannotHaveIsReportedAndRestartsNothing)
 {
-    Registry::setRestartPreference({REG_SZ, L"true"});
-    startService();
+    Registry::preferRestart(true);
+    Service::startOnFreePort();
     const DWORD before = Service::processId();
     openAt(letters);
     const std::wstring longName(300, L'x');

@@ -41,7 +41,7 @@ ResourcesFolder find(const ServerApplication& application, const std::wstring& f
 void TemplatesTest::SetUp()
 {
     ConsoleTest::SetUp();
-    Registry::setRestartPreference({REG_SZ, L"false"});
+    Registry::preferRestart(false);
 }
 
 std::wstring TemplatesTest::makeFile(const std::wstring& name, std::string_view content)
@@ -184,33 +184,6 @@ std::filesystem::path TemplatesTest::database()
 std::wstring TemplatesTest::databaseInUse()
 {
     return L"The database \"" + database().wstring() + L"\" is in use by another program. Please try again.";
-}
-
-void TemplatesTest::startService()
-{
-    Service::useFreePort();
-    Service::install();
-    Service::start();
-}
-
-void TemplatesTest::openAt(const std::wstring& path, int views)
-{
-    open(views);
-    for (int number = 0; number < views; ++number)
-    {
-        view(static_cast<std::size_t>(number)).select(path);
-    }
-}
-
-TemplatesTest::Texts TemplatesTest::names(std::size_t number)
-{
-    const Console::View& shown = view(number).view();
-    Texts names;
-    for (int row = 0; row < shown.rowCount(); ++row)
-    {
-        names.push_back(shown.rowText(row, 0));
-    }
-    return names;
 }
 
 void TemplatesTest::enter(const std::wstring& caption, int control, const std::wstring& text,

@@ -50,15 +50,8 @@ class TemplatesTest : public ConsoleTest
 
     // --- the console
 
-    // Installs and starts the service, on a port of its own.
-    static void startService();
-
     // The path of something below the branch, as nodeOf(L"Invoices\\Users").
     static std::wstring nodeOf(const std::wstring& below) { return std::wstring(branch) + L"\\" + below; }
-    // Opens the console and shows that node in every view.
-    void openAt(const std::wstring& path, int views = 1);
-    // The first texts of the rows. The branch itself has no columns.
-    Texts names(std::size_t view = 0);
 
     // The robot's next step: the dialog comes up, that text is typed, and OK is pressed.
     void enter(const std::wstring& caption, int control, const std::wstring& text,

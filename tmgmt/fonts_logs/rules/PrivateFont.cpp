@@ -20,9 +20,8 @@ bool says(const Core::String& piece, const wchar_t* style)
 
 Core::String fontKey(const PrivateFont& font)
 {
-    Core::StringFormatStream key(L"MapFont:{0}{1}{2}");
-    key << font.family.toUpper() << (font.isBold ? L"-BOLD" : L"") << (font.isItalic ? L"-ITALIC" : L"");
-    return key.getString();
+    return Core::format(L"MapFont:{0}{1}{2}", font.family.toUpper(), font.isBold ? L"-BOLD" : L"",
+                        font.isItalic ? L"-ITALIC" : L"");
 }
 
 std::optional<PrivateFont> readFont(const Core::String& key, const Core::String& value)

@@ -193,9 +193,6 @@ class SystemFileOperations final : public FileOperations
     {
         switch (error)
         {
-        // A virus scanner, an indexer or a reader has the file open.
-        case ERROR_ACCESS_DENIED:
-        case ERROR_SHARING_VIOLATION:
         // The states in which ReplaceFileW can stop; each leaves old and new content under some name.
         case ERROR_UNABLE_TO_REMOVE_REPLACED:
         case ERROR_UNABLE_TO_MOVE_REPLACEMENT:
@@ -206,20 +203,15 @@ class SystemFileOperations final : public FileOperations
         case ERROR_ALREADY_EXISTS:
             return true;
         default:
-            return false;
+            return isInUse(error);
         }
     }
 
-    void pause() override { Sleep(100); }
+    void pause() override { IO::pause(); }
 
   private:
     // As much as one call of the system takes.
     static DWORD pieceOf(std::size_t size) noexcept { return static_cast<DWORD>(std::min<std::size_t>(size, 1 << 24)); }
-
-    static std::uint64_t ticks(const FILETIME& time) noexcept
-    {
-        return (static_cast<std::uint64_t>(time.dwHighDateTime) << 32) | time.dwLowDateTime;
-    }
 
     platform::FileHandle m_side;
 };

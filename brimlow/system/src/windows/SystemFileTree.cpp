@@ -2,6 +2,7 @@
 
 #include "FolderSearch.h"
 #include "extendedPath.h"
+#include "retry.h"
 #include "systemCalls.h"
 
 #include <cstdint>
@@ -12,11 +13,6 @@ namespace Core::IO
 
 namespace
 {
-
-constexpr std::uint64_t ticks(const FILETIME& time) noexcept
-{
-    return (static_cast<std::uint64_t>(time.dwHighDateTime) << 32) | time.dwLowDateTime;
-}
 
 std::wstring below(const std::wstring& folder, const wchar_t* name)
 {
@@ -147,16 +143,8 @@ class SystemFileTree final : public FileTree
     {
         const std::wstring source = extendedPath(from);
         const std::wstring target = extendedPath(to);
-        for (int attempt = 1;; ++attempt)
-        {
-            const SystemError error = resultOf(MoveFileExW(source.c_str(), target.c_str(), MOVEFILE_WRITE_THROUGH));
-            // A virus scanner or an indexer looks at what was just written: half a second is enough.
-            if ((error != ERROR_SHARING_VIOLATION && error != ERROR_ACCESS_DENIED) || attempt == 6)
-            {
-                return error;
-            }
-            Sleep(100);
-        }
+        return retry([&] { return resultOf(MoveFileExW(source.c_str(), target.c_str(), MOVEFILE_WRITE_THROUGH)); },
+                     isInUse, pause);
     }
 
     bool remove(const String& path) const override

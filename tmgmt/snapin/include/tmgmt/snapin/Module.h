@@ -24,15 +24,16 @@ class Module
     // The console hands nodes back as the number that it was given for them. It may hand back one whose node is long
     // gone, or one that never was: only numbers in this list are followed.
     void itemBorn(CSnapInItem* item) { m_alive.insert(item); }
-    void itemGone(CSnapInItem* item) noexcept { m_alive.erase(item); }
+    void itemGone(CSnapInItem* item) noexcept;
     // Null when no live node has this cookie.
-    CSnapInItem* findItem(MMC_COOKIE cookie) const noexcept;
+    CSnapInItem* findItem(MMC_COOKIE cookie) noexcept;
 
   private:
     Module() = default;
 
     LONG m_inUse = 0;
     std::unordered_set<CSnapInItem*> m_alive;
+    CSnapInItem* m_lastFound = nullptr;
 };
 
 } // namespace TMgmt

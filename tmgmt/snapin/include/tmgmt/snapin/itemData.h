@@ -22,7 +22,4 @@ struct ItemData
 // Puts the answer in that clipboard format into data. DV_E_CLIPFORMAT: there is none.
 HRESULT fillItemData(CLIPFORMAT format, const ItemData& item, std::vector<std::byte>& data);
 
-// "{XXXXXXXX-…}" with braces.
-std::wstring guidText(const GUID& guid);
-
 } // namespace TMgmt
