@@ -15,16 +15,9 @@ constexpr UINT lookAround = WM_APP;
 constexpr wchar_t className[] = L"HastyUser";
 constexpr wchar_t dialogClass[] = L"#32770";
 
-// The window whose controls the user has before him: of a wizard, the page that it shows.
-HWND panelOf(HWND dialog)
-{
-    const auto page = reinterpret_cast<HWND>(SendMessageW(dialog, PSM_GETCURRENTPAGEHWND, 0, 0));
-    return IsWindow(page) && GetParent(page) == dialog ? page : dialog;
-}
-
 HWND controlOf(HWND dialog, int id)
 {
-    const HWND control = GetDlgItem(panelOf(dialog), id);
+    const HWND control = GetDlgItem(HastyUser::panelOf(dialog), id);
     return control ? control : GetDlgItem(dialog, id);
 }
 
@@ -49,6 +42,12 @@ HastyUser::~HastyUser()
     UnhookWindowsHookEx(m_hook);
     s_user = nullptr;
     DestroyWindow(m_window);
+}
+
+HWND HastyUser::panelOf(HWND dialog)
+{
+    const auto page = reinterpret_cast<HWND>(SendMessageW(dialog, PSM_GETCURRENTPAGEHWND, 0, 0));
+    return IsWindow(page) && GetParent(page) == dialog ? page : dialog;
 }
 
 void HastyUser::click(HWND dialog, int control)

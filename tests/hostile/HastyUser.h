@@ -25,6 +25,8 @@ class HastyUser
     // Dialogs seen so far.
     int seen() const { return m_seen; }
 
+    // The window whose controls the user has before him: of a wizard, the page that it shows.
+    static HWND panelOf(HWND dialog);
     // Posts a click on the control with that id: one of the dialog's own, or of the page that a wizard shows.
     static void click(HWND dialog, int control);
     // Puts a text into a field at once.

@@ -1,7 +1,10 @@
+#include "DialogPlay.h"
 #include "Mischief.h"
 #include "ModuleMemory.h"
 #include "NodeKinds.h"
 #include "ResourceCounts.h"
+#include "fromEnvironment.h"
+#include "systemCaches.h"
 
 #include "kit/Frame.h"
 #include "kit/windows.h"
@@ -10,7 +13,6 @@
 
 #include <array>
 #include <cstdio>
-#include <cstdlib>
 #include <map>
 #include <span>
 #include <string>
@@ -20,13 +22,6 @@ namespace Hostile
 {
 namespace
 {
-
-// Another run: HOSTILE_SEED and HOSTILE_STEPS in the environment.
-unsigned long fromEnvironment(const char* name, unsigned long standard)
-{
-    const char* const text = std::getenv(name);
-    return text ? std::strtoul(text, nullptr, 10) : standard;
-}
 
 const Mischief* s_mischief = nullptr;
 int s_faults = 0;
@@ -64,18 +59,21 @@ class AHostileConsole : public testing::Test
     void* m_handler = nullptr;
 };
 
-struct Remains
+// What the controls of the system and the libraries in the plug-in make at the first use and keep, as the tables of the
+// cryptography: every dialog comes once.
+void showEveryDialog(HWND frame)
 {
-    ResourceCounts resources;
-    long blocks;
-};
-
-// What is there while the plug-in is loaded and not used.
-Remains remains(Mischief& mischief, const ModuleMemory& memory)
-{
-    mischief.settle();
-    mischief.end();
-    return {ResourceCounts::now(), memory.blocks()};
+    Whim never(0);
+    const Server server;
+    Instance instance(never, frame);
+    instance.expandAll();
+    View& view = *instance.addView();
+    DialogPlay play(instance, view);
+    for (const DialogUse& use : dialogUses())
+    {
+        play.choose(use);
+        play.play();
+    }
 }
 
 // Whether a call came about every kind of node and about everything that is passed in place of one.
@@ -136,37 +134,44 @@ void expectEverythingCame(const Mischief& mischief)
     std::printf("%7d dialogs and %d messages\n", mischief.windows().dialogs(), mischief.windows().messages());
 }
 
+// Another run: HOSTILE_SEED and HOSTILE_STEPS in the environment.
 TEST_F(AHostileConsole, bringsNothingDownAndLeavesNothing)
 {
     constexpr unsigned long standardSteps = 100000;
     const unsigned long steps = fromEnvironment("HOSTILE_STEPS", standardSteps);
-    Mischief mischief(static_cast<std::uint32_t>(fromEnvironment("HOSTILE_SEED", 1)), frame.handle());
     const ModuleMemory memory;
+    fillSystemCaches(frame.handle());
+    showEveryDialog(frame.handle());
+    Mischief mischief(static_cast<std::uint32_t>(fromEnvironment("HOSTILE_SEED", 1)), frame.handle());
+    mischief.end();
+    const ResourceCounts before = countResources();
+    const long blocksBefore = memory.blocks();
     s_mischief = &mischief;
-    for (unsigned long step = 0; step < steps / 5; ++step)
+    for (unsigned long step = 1; step <= steps; ++step)
     {
         mischief.step();
+        if (step % 10000 == 0)
+        {
+            std::printf("%lu steps\n", step);
+            std::fflush(stdout);
+        }
     }
-    const Remains before = remains(mischief, memory);
-    for (unsigned long step = steps / 5; step < steps; ++step)
-    {
-        mischief.step();
-    }
-    const Remains after = remains(mischief, memory);
+    mischief.settle();
+    mischief.end();
+    expectNoMore(before, countResources());
+    EXPECT_LE(memory.blocks(), blocksBefore) << "blocks of memory";
 
-    EXPECT_LE(after.resources.handles, before.resources.handles);
-    EXPECT_LE(after.resources.gdiObjects, before.resources.gdiObjects);
-    EXPECT_LE(after.resources.windows, before.resources.windows);
-    EXPECT_LE(after.resources.menus, before.resources.menus);
-    EXPECT_LE(after.blocks, before.blocks);
     if (steps >= standardSteps)
     {
         expectEverythingCame(mischief);
     }
+    constexpr auto npos = std::wstring::npos;
     for (const std::wstring& entry : mischief.windows().eventLog())
     {
-        // The plug-in logs what it did not expect. Windows without memory for a dialog is one such thing.
-        EXPECT_NE(std::wstring::npos, entry.find(L"cannot be shown")) << Acceptance::narrow(entry);
+        // The plug-in logs what it did not expect: here Windows without memory for a dialog, and a certificate of the
+        // list that another program took away.
+        EXPECT_TRUE(entry.find(L"cannot be shown") != npos || entry.find(L"(SmartPtr, line 118)") != npos)
+            << Acceptance::narrow(entry);
     }
 }
 

@@ -1,6 +1,8 @@
 #include "LeakTest.h"
 
 #include "frame/SimulatedService.h"
+#include "kit/ImportSpy.h"
+#include "kit/windows.h"
 
 namespace Hostile
 {
@@ -9,8 +11,19 @@ namespace
 
 class NodeLeak : public LeakTest
 {
+  protected:
+    NodeLeak() { m_service.statuses = {{.state = SERVICE_RUNNING}}; }
+
+  private:
     // In place of the real manager, which takes longer than all the rest.
     Acceptance::SimulatedService m_service;
+    Acceptance::ImportSpy<"MessageBoxW", decltype(MessageBoxW)> m_messages{[](HWND, LPCWSTR text, LPCWSTR, UINT)
+                                                                           {
+                                                                               ADD_FAILURE()
+                                                                                   << "a message that nobody expects: "
+                                                                                   << Acceptance::narrow(text);
+                                                                               return IDCANCEL;
+                                                                           }};
 };
 
 TEST_F(NodeLeak, everyNodeShownLeavesNothing)

@@ -1,22 +1,19 @@
 #pragma once
 
 #include <cstddef>
-#include <iosfwd>
+#include <map>
+#include <string>
 
 namespace Hostile
 {
 
-// What this process has of the system. Counting takes some ten milliseconds.
-struct ResourceCounts
-{
-    std::size_t handles = 0;    // files, keys, events, threads, …
-    std::size_t gdiObjects = 0; // bitmaps, brushes, fonts, … and, under Wine, what icons and cursors are made of
-    std::size_t windows = 0;    // of the calling thread, with their children
-    std::size_t menus = 0;
+// What this process has of the system, by what it is: "handles: File", "GDI: font", "windows", …
+using ResourceCounts = std::map<std::string, std::size_t>;
 
-    static ResourceCounts now();
-};
+// Counting takes some ten milliseconds.
+ResourceCounts countResources();
 
-std::ostream& operator<<(std::ostream& out, const ResourceCounts& counts);
+// Fails the test for each kind of which there is more than before.
+void expectNoMore(const ResourceCounts& before, const ResourceCounts& after);
 
 } // namespace Hostile

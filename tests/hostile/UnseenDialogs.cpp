@@ -19,6 +19,15 @@ struct DialogTemplate
     DWORD style;
 };
 
+int CALLBACK hideSheet(HWND, UINT event, LPARAM dialog)
+{
+    if (event == PSCB_PRECREATE)
+    {
+        reinterpret_cast<DialogTemplate*>(dialog)->style &= ~static_cast<DWORD>(WS_VISIBLE);
+    }
+    return 0;
+}
+
 } // namespace
 
 INT_PTR showUnseen(HINSTANCE module, LPCWSTR name, HWND owner, DLGPROC procedure, LPARAM parameter)
@@ -31,6 +40,14 @@ INT_PTR showUnseen(HINSTANCE module, LPCWSTR name, HWND owner, DLGPROC procedure
     head.style &= ~static_cast<DWORD>(WS_VISIBLE);
     std::memcpy(copy.data(), &head, sizeof head);
     return DialogBoxIndirectParamW(module, reinterpret_cast<LPCDLGTEMPLATEW>(copy.data()), owner, procedure, parameter);
+}
+
+INT_PTR showUnseen(const PROPSHEETHEADERW& sheet, const std::function<INT_PTR(LPCPROPSHEETHEADERW)>& show)
+{
+    PROPSHEETHEADERW unseen = sheet;
+    unseen.dwFlags |= PSH_USECALLBACK;
+    unseen.pfnCallback = hideSheet;
+    return show(&unseen);
 }
 
 } // namespace Hostile

@@ -119,7 +119,7 @@ INT_PTR WindowsAnswers::showSheet(LPCPROPSHEETHEADERW sheet)
 {
     if (m_whim.oneIn(usedOneIn))
     {
-        return m_sheets.callThrough(sheet);
+        return showUnseen(*sheet, [this](auto unseen) { return m_sheets.callThrough(unseen); });
     }
     wait();
     SetLastError(ERROR_NOT_ENOUGH_MEMORY);
