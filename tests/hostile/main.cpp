@@ -2,5 +2,5 @@
 
 extern "C" int wmain(int argumentCount, wchar_t** arguments)
 {
-    return Acceptance::runTests(argumentCount, arguments, std::chrono::minutes{10});
+    return Acceptance::runTests(argumentCount, arguments, std::chrono::minutes{20});
 }
