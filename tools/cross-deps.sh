@@ -68,14 +68,15 @@ build_cmake() {
 }
 
 # build_sqlite SOURCES: joins them to the one file that SQLite is meant to be compiled as. No extension is loaded from
-# elsewhere, and a text in double quotes is never taken for a string.
+# elsewhere, and a text in double quotes is never taken for a string. What nothing here calls is left out.
 build_sqlite() {
   mkdir "$work/build-sqlite"
   cd "$work/build-sqlite"
   logged sqlite "$1/configure" --disable-tcl --disable-shared
   logged sqlite make sqlite3.c sqlite3.h
   logged sqlite x86_64-w64-mingw32-gcc-posix -O2 -DSQLITE_THREADSAFE=1 -DSQLITE_OMIT_LOAD_EXTENSION -DSQLITE_DQS=0 \
-    -c sqlite3.c
+    -DSQLITE_OMIT_AUTHORIZATION -DSQLITE_OMIT_DECLTYPE -DSQLITE_OMIT_DEPRECATED -DSQLITE_OMIT_JSON \
+    -DSQLITE_OMIT_PROGRESS_CALLBACK -DSQLITE_OMIT_SHARED_CACHE -DSQLITE_OMIT_TRACE -c sqlite3.c
   logged sqlite x86_64-w64-mingw32-ar rcs "$work/deps/lib/libsqlite3.a" sqlite3.o
   cp sqlite3.h "$work/deps/include"
   cd "$here"
@@ -83,7 +84,8 @@ build_sqlite() {
 
 # build_openssl SOURCES: the cryptography alone, without TLS and programs. What old PKCS#12 files are encrypted with is
 # linked in ("no-module"), and nothing is ever loaded or configured from a folder of the machine, where somebody could
-# put it.
+# put it. Protocols and ciphers that no certificate and no file of keys has are left out: they would be a tenth of
+# TMgmt.dll.
 build_openssl() {
   cp -r "$1" "$work/build-openssl"
   cd "$work/build-openssl"
@@ -93,7 +95,9 @@ build_openssl() {
   sed -i 's/_onexit(win32atexit) == NULL/atexit(OPENSSL_cleanup) != 0/' crypto/init.c
   logged openssl ./Configure mingw64 CC=x86_64-w64-mingw32-gcc-posix AR=x86_64-w64-mingw32-ar \
     RANLIB=x86_64-w64-mingw32-ranlib RC=x86_64-w64-mingw32-windres \
-    no-shared no-module no-dso no-engine no-autoload-config no-tests no-comp no-ui-console
+    no-shared no-module no-dso no-engine no-autoload-config no-tests no-comp no-ui-console \
+    no-bf no-blake2 no-cast no-chacha no-cmp no-cms no-ct no-dgram no-dh no-gost no-idea no-mdc2 no-multiblock no-ocb \
+    no-ocsp no-poly1305 no-psk no-rc5 no-rfc3779 no-siphash no-siv no-sock no-srp no-srtp no-ts no-whirlpool
   logged openssl make build_generated
   logged openssl make -j"$(nproc)" libcrypto.a
   cp libcrypto.a "$work/deps/lib"
@@ -107,7 +111,7 @@ openssl=$(fetch_source openssl)
 build_openssl "$openssl"
 echo "Building pugixml $pugixml_version for Windows (once)" >&2
 pugixml=$(fetch_source pugixml)
-build_cmake "$pugixml" pugixml
+build_cmake "$pugixml" pugixml -DPUGIXML_NO_XPATH=ON
 echo "Building SQLite $sqlite_version for Windows (once)" >&2
 sqlite=$(fetch_source sqlite3)
 build_sqlite "$sqlite"
