@@ -105,9 +105,19 @@ void rememberPlacement(HWND window, WindowPlacement placement)
         const bool minimized = present.showCmd == SW_SHOWMINIMIZED;
         placement.maximized =
             minimized ? (present.flags & WPF_RESTORETOMAXIMIZED) != 0 : present.showCmd == SW_SHOWMAXIMIZED;
-        placement.normal = present.rcNormalPosition;
+        MONITORINFO monitor{};
+        monitor.cbSize = sizeof monitor;
+        GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
+        placement.normal = onScreen(present.rcNormalPosition, monitor);
         Settings().setText(settingName, placement.toText());
     }
+}
+
+RECT onScreen(const RECT& place, const MONITORINFO& monitor)
+{
+    const LONG right = monitor.rcWork.left - monitor.rcMonitor.left;
+    const LONG down = monitor.rcWork.top - monitor.rcMonitor.top;
+    return {place.left + right, place.top + down, place.right + right, place.bottom + down};
 }
 
 RECT keepOnScreen(const RECT& window, const std::vector<RECT>& workAreas)

@@ -30,6 +30,9 @@ WindowPlacement startPlacement(bool remembered, const std::optional<SIZE>& size,
 // Keeps it for the next run, with the window's present place.
 void rememberPlacement(HWND window, WindowPlacement placement);
 
+// Where a place is that GetWindowPlacement gave: it counts from the monitor's work area, not from its corner.
+RECT onScreen(const RECT& place, const MONITORINFO& monitor);
+
 // The same window where it can be seen and its caption reached: moved, and made smaller if need be, into the work area
 // that it covers most of (the first one when it covers none). workAreas is not empty.
 RECT keepOnScreen(const RECT& window, const std::vector<RECT>& workAreas);

@@ -26,6 +26,16 @@ using Edges = std::array<LONG, 4>;
 
 } // namespace
 
+TEST(OnScreen, CountsFromTheCornerOfTheMonitorWhereverTheTaskbarIs)
+{
+    const auto place = [](const RECT& monitor, const RECT& work) {
+        return edges(onScreen({100, 50, 900, 650}, {sizeof(MONITORINFO), monitor, work, 0}));
+    };
+    EXPECT_EQ(place({0, 0, 1920, 1080}, {0, 0, 1920, 1040}), (Edges{100, 50, 900, 650}));
+    EXPECT_EQ(place({0, 0, 1920, 1080}, {60, 30, 1920, 1080}), (Edges{160, 80, 960, 680}));
+    EXPECT_EQ(place({-1280, 0, 0, 1024}, {-1250, 0, 0, 1024}), (Edges{130, 50, 930, 650}));
+}
+
 TEST(KeepOnScreen, LeavesAWindowThatIsSeen)
 {
     EXPECT_EQ(placed({100, 100, 900, 700}), (Edges{100, 100, 900, 700}));
