@@ -1,10 +1,12 @@
 #!/usr/bin/env bash
-# Writes docs/faults.md from what FaultTests printed natively and under Wine, there perhaps in several runs that shared
-# the saves as GoogleTest shares tests:
-#     GTEST_TOTAL_SHARDS=2 GTEST_SHARD_INDEX=0 wine out/windows-x64/FaultTests.exe >0.log
-#     GTEST_TOTAL_SHARDS=2 GTEST_SHARD_INDEX=1 wine out/windows-x64/FaultTests.exe >1.log
-#     tools/fault-report.sh out/test-results/FaultTests-native.log 0.log 1.log
+# Writes docs/faults.md from what FaultTests printed in the last run of ./test.sh, or in other logs of whole programs
+# that ended well; those from Wine together have every save:
+#     tools/fault-report.sh [NATIVE_LOG WINDOWS_LOG…]
 set -euo pipefail
+shopt -s inherit_errexit
+cd "$(dirname "$0")/.."
+results=out/test-results
+[ $# -gt 0 ] || set -- "$results"/FaultTests-{native,files,databases}.log
 native=$1
 windows=("${@:2}")
 
@@ -21,15 +23,17 @@ table() {
     /^\| (save|all) \||^\|---/ { if (FNR == NR && !/^\| all/) heading = heading $0 "\n"; next }
     !/^\| / { next }
     FNR == NR { order[++saves] = $2 }
-    FNR != NR { row[$2] = $0; for (i = 3; i < NF; ++i) sum[i] += $i; columns = NF }
+    FNR != NR { row[$2] = $0 }
     END {
       printf "%s", heading
       for (i = 1; i <= saves; ++i) {
         if (!(order[i] in row)) { print "no run has " order[i] >"/dev/stderr"; exit 1 }
         print row[order[i]]
+        columns = split(row[order[i]], cuts)
+        for (column = 3; column < columns; ++column) sum[column] += cuts[column]
       }
       printf "| all |"
-      for (i = 3; i < columns; ++i) printf " %d |", sum[i]
+      for (column = 3; column < columns; ++column) printf " %d |", sum[column]
       print ""
     }' "$native" "$@" | tr -d '\r'
 }
@@ -69,11 +73,11 @@ the file is. Not cut are closing and unlocking, which do not fail, and the look 
 imported, which goes through the C runtime and without which the file is read all the same. `ReplaceFileW` is also cut in
 its middle, where the old file is away already and the new one not there yet.
 
-These are the figures of a whole run. It takes its time, because each program that is killed has to be started:
-`./test.sh` cuts the saves to files and to the key store at every point, those to databases at one point of eleven, each
-save at others.
+Files and the key store are cut at every point. Databases, where a whole run would be the longest of all tests because
+each program that is killed has to be started, are cut at one point of 23, each save at others. All points are cut by
+`wine out/windows-x64/FaultTests.exe`, without `FAULT_STRIDE`.
 
 END
   table "${windows[@]}"
 )
-printf '%s\n' "$report" >"$(dirname "$0")/../docs/faults.md"
+printf '%s\n' "$report" >docs/faults.md

@@ -95,7 +95,8 @@ class Watch<name, Result(Arguments...)>
 };
 
 // All that the libraries import for files and folders. Closing and unlocking are left out: they do not fail, and what
-// is left by a program that is killed there is left also by one that is killed before its next call.
+// is left by a program that is killed there is left also by one that is killed before its next call. GetFullPathNameW
+// only works on text.
 struct Watches
 {
     const Watch<"ReadFile", decltype(ReadFile)> readFile{Effect::looks};
