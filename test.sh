@@ -4,7 +4,8 @@
 # failed.
 #
 # Most of their time the tests wait for windows and services, so they run in lanes side by side, each with a display and
-# a Wine prefix of its own, which means its own registry, services and files.
+# a Wine prefix of its own, which means its own registry, services and files. More lanes at once would only make tests
+# wait for the processor.
 set -uo pipefail
 cd "$(dirname "$0")"
 # shellcheck source=tools/wine.sh
@@ -131,11 +132,9 @@ use_display
 use_prefix "$PWD/out/test-prefix"
 stop_wine
 sources_lane &
-native_lane &
-programs_lane &
-faults_lane &
+{ native_lane; (faults_lane); } &
+{ (programs_lane); (hostile_lane); } &
 acceptance_lane 0 &
 acceptance_lane 1 &
-hostile_lane &
 wait
 finish
