@@ -3,6 +3,7 @@
 makes what it asks for, and writes the report to standard output and to the file RESULT."""
 
 import os
+import statistics
 import subprocess
 import sys
 
@@ -62,6 +63,7 @@ def main(folder, result, quick):
     library = os.path.getsize(os.path.join(folder, 'TMgmt.dll'))
     figures = [Figure('Start: size of TMgmt.dll', 0, 'bytes', [library], [])]
     fixtures = Fixtures(os.environ['WINEPREFIX'])
+    loads = []
     try:
         for subject, sizes in SUBJECTS.items():
             for size in sizes:
@@ -69,9 +71,10 @@ def main(folder, result, quick):
                     print(f'  {subject} {size or ""}', file=sys.stderr)
                     figures += run(os.path.join(folder, 'Bench.exe'), subject, size,
                                    QUICK_MILLISECONDS if quick else MILLISECONDS, fixtures)
+                    loads.append(os.getloadavg()[0])  # of the last minute
     finally:
         fixtures.remove()
-    text = report(figures, quick)
+    text = report(figures, statistics.mean(loads), quick)
     print(text, end='')
     with open(result, 'w', encoding='utf-8') as file:
         file.write(text)

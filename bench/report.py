@@ -22,10 +22,12 @@ REASONS = [
      'before it is followed: about 0.1 µs a text.'),
     (': leave$', 10000, 'a node is let go for each row, where the floor has texts only: below a microsecond a row.'),
     (': (show|refresh)', 10000, 'a node is made for each row, where the floor has texts only: a microsecond a row.'),
+    ('^(Users|Users of an application|Templates of an application|Files of a resource folder): (edit|delete|revoke) one',
+     0, 'the node is selected and refreshed, so that the console has it list everything twice.'),
     (': (add|edit|rename|grant) one', 0, "the editor fills its controls and checks what is entered; the floor's does "
      'not. And the list is made anew, as by show.'),
     (': delete all$', 10000, 'the system deletes a file the slower the more there are in its folder, on both sides.'),
-    (': (delete|revoke) one', 10000, 'the list is made anew, as by show.'),
+    (': delete one', 10000, 'the list is made anew, as by show.'),
 ]
 
 GAPS = [
@@ -65,13 +67,12 @@ def commit():
     return output('git', 'rev-parse', '--short', 'HEAD') + (' with changes that were not committed' if changed else '')
 
 
-def machine():
+def machine(load):
     with open('/proc/cpuinfo', encoding='utf-8') as file:
         model = re.search(r'^model name\s*: (.*)$', file.read(), re.MULTILINE)
-    load = os.getloadavg()[2]
     return (f'Machine: {os.cpu_count()} cores ({model[1] if model else platform.machine()}), Linux {platform.release()}, '
-            f'{output("wine", "--version")}. Its files lie in memory. The load of the last quarter of an hour was '
-            f'{load:.1f}; above 1 the figures are too high, and ratios of short ones not to be relied on.')
+            f'{output("wine", "--version")}. Its files lie in memory. The load was {load:.1f} meanwhile, of which '
+            '1 is the bench; beyond that the figures are too high, and ratios of short ones not to be relied on.')
 
 
 def reason(figure):
@@ -90,9 +91,9 @@ def faults(figures):
     return ['## Beyond its aim', '', *(lines or ['Nothing.'])]
 
 
-def report(figures, quick):
+def report(figures, load, quick):
     lines = tables(figures, GAPS)
     return TEXT.format(mode='--quick, without the largest lists' if quick else 'everything',
-                       date=datetime.date.today().isoformat(), commit=commit(), machine=machine(),
+                       date=datetime.date.today().isoformat(), commit=commit(), machine=machine(load),
                        ratio=LARGEST_RATIO, growth=LARGEST_GROWTH, row=LARGEST_ROW, library=LARGEST_LIBRARY >> 20,
                        tables='\n'.join(lines + faults(figures)))

@@ -129,6 +129,7 @@ void templates(std::size_t size, std::chrono::milliseconds patience)
                       ServerTemplates applications;
                       ServerApplication& application = applications.getAt(0);
                       application.deleteTemplate(application.getAt(application.getTemplatesCount() / 2));
+                      applications.updateApplication(application);
                   },
                   .rows = size + nodes - 1});
 }
