@@ -93,6 +93,9 @@ build_openssl() {
   # by then. The atexit of mingw-w64 belongs to the module.
   grep -q '_onexit(win32atexit) == NULL' crypto/init.c
   sed -i 's/_onexit(win32atexit) == NULL/atexit(OPENSSL_cleanup) != 0/' crypto/init.c
+  # Whatever was configured below, it would look for openssl.cnf when it is asked for an object's name.
+  grep -q 'int ret = ossl_config_int(NULL);' crypto/init.c
+  sed -i 's/int ret = ossl_config_int(NULL);/int ret = 1;/' crypto/init.c
   logged openssl ./Configure mingw64 CC=x86_64-w64-mingw32-gcc-posix AR=x86_64-w64-mingw32-ar \
     RANLIB=x86_64-w64-mingw32-ranlib RC=x86_64-w64-mingw32-windres \
     no-shared no-module no-dso no-engine no-autoload-config no-tests no-comp no-ui-console \
