@@ -73,9 +73,9 @@ the file is. Not cut are closing and unlocking, which do not fail, and the look 
 imported, which goes through the C runtime and without which the file is read all the same. `ReplaceFileW` is also cut in
 its middle, where the old file is away already and the new one not there yet.
 
-Files and the key store are cut at every point. Databases, where a whole run would be the longest of all tests because
-each program that is killed has to be started, are cut at one point of 23, each save at others. All points are cut by
-`wine out/windows-x64/FaultTests.exe`, without `FAULT_STRIDE`.
+Files and the key store are cut at every point. So are databases by `wine out/windows-x64/FaultTests.exe` alone; in
+`./test.sh`, where that would be the longest of all tests because each program that is killed has to be started, one
+point of 23 is (`FAULT_STRIDE`), each save at others. The numbers of cuts tell which run the table is of.
 
 END
   table "${windows[@]}"
