@@ -1,24 +1,24 @@
 #include "floor/floorPictures.h"
 
 #include "platform/handles.h"
+#include "tmgmt/resources/ids.h"
 
 #include <commctrl.h>
 
 namespace Bench
 {
-namespace
-{
-
-constexpr int pictures = 24;
-
-} // namespace
 
 HRESULT addPictures(IImageList& images)
 {
-    const platform::Bitmap small(CreateBitmap(16 * pictures, 16, 1, 32, nullptr));
-    const platform::Bitmap large(CreateBitmap(32 * pictures, 32, 1, 32, nullptr));
+    const HMODULE plugIn = GetModuleHandleW(L"TMgmt.dll");
+    const platform::Bitmap small(LoadBitmapW(plugIn, MAKEINTRESOURCEW(IDB_NODES_SMALL)));
+    const platform::Bitmap large(LoadBitmapW(plugIn, MAKEINTRESOURCEW(IDB_NODES_LARGE)));
+    if (!small || !large)
+    {
+        return E_FAIL;
+    }
     return images.ImageListSetStrip(reinterpret_cast<LONG_PTR*>(small.get()), reinterpret_cast<LONG_PTR*>(large.get()),
-                                    0, CLR_NONE);
+                                    0, RGB(0, 128, 128));
 }
 
 } // namespace Bench

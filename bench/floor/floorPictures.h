@@ -5,7 +5,7 @@
 namespace Bench
 {
 
-// Gives the console as many pictures as the plug-in has, empty ones.
+// Gives the console the plug-in's pictures. E_FAIL while the plug-in is not loaded.
 HRESULT addPictures(IImageList& images);
 
 } // namespace Bench

@@ -1,8 +1,8 @@
 #include "brimlow/system/Exception.h"
 #include "brimlow/system/PrivateFile.h"
-#include "brimlow/system/Process.h"
 #include "kit/ImportSpy.h"
 #include "passwordProtection.h"
+#include "windows/commonAppDataFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -40,7 +40,7 @@ TEST(SystemRefusal, ofTheCommonApplicationDataFolderIsTold)
                                                                           nullptr);
     expectRefusal(L"The common application data folder cannot be found: " +
                       described(static_cast<Core::SystemError>(E_ACCESSDENIED)),
-                  [] { Core::Process::getCommonAppDataFolder(); });
+                  [] { Core::Process::askForCommonAppDataFolder(); });
 }
 
 TEST(SystemRefusal, ofAnAccessListIsTold)

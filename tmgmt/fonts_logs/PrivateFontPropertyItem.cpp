@@ -71,9 +71,10 @@ HRESULT PrivateFontPropertyItem::edit(Console& console)
 // After the file was changed: the list anew, and the service where it is to take changes at once.
 void PrivateFontPropertyItem::showChange(Console& console)
 {
-    // Kept as is: the node's own number stands where a handle of the console's belongs, so that nothing is selected.
-    console.selectScopeItem(listerCookie());
-    console.refreshResultList(*lister());
+    const Core::SmartPtr<CSnapInItem> fonts = lister();
+    // Kept as is: the node itself stands where a handle of the console's belongs, so that nothing is selected.
+    console.selectScopeItem(reinterpret_cast<HSCOPEITEM>(fonts.get()));
+    console.refreshResultList(*fonts);
     if (readRestartPreference())
     {
         RestartServerService();

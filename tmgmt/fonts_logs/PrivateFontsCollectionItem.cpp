@@ -62,9 +62,7 @@ HRESULT PrivateFontsCollectionItem::add(Console& console)
     if (dialog.show(GetActiveWindow()) == IDOK)
     {
         storePrivateFont(dialog.font);
-        reload();
-        console.selectScopeItem(GetScopeData().ID);
-        console.updateAllViews(*this, CCT_SCOPE);
+        console.selectAndRefresh(*this);
     }
     return S_OK;
 }

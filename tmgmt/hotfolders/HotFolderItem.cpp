@@ -70,6 +70,7 @@ HRESULT HotFolderItem::edit(Console& console)
     }
     // Kept as is: the row of a hot folder shows what was entered even when it cannot be stored.
     m_hotFolder = editor.hotFolder;
+    leaveStored();
     if (!accepted([&] { HotFolders::HotFolderCollection().updateFolder(m_hotFolder); }))
     {
         return S_OK;

@@ -8,7 +8,7 @@ namespace TMgmt
 {
 
 HotFoldersCollectionItem::HotFoldersCollectionItem()
-    : Collection(ScopeNode{.displayName = L"Hot Folders", .image = 8, .childCount = 0})
+    : StoredCollection(ScopeNode{.displayName = L"Hot Folders", .image = 8, .childCount = 0})
 {
 }
 
@@ -23,7 +23,7 @@ HRESULT HotFoldersCollectionItem::GetResultViewType(LPOLESTR* viewType, LONG* op
 
 HRESULT HotFoldersCollectionItem::Command(long command, Console& console, DATA_OBJECT_TYPES type)
 {
-    return command == ID_ADD_HOT_FOLDER ? add(console) : Collection::Command(command, console, type);
+    return command == ID_ADD_HOT_FOLDER ? add(console) : StoredCollection::Command(command, console, type);
 }
 
 HRESULT HotFoldersCollectionItem::OnShow(bool selecting, HSCOPEITEM, Console& console)
@@ -46,20 +46,26 @@ HRESULT HotFoldersCollectionItem::OnSelect(bool, bool isSelected, Console& conso
     return enableVerb(MMC_VERB_REFRESH, isSelected, console);
 }
 
-HotFoldersCollectionItem::Rows HotFoldersCollectionItem::readRows()
+HotFoldersCollectionItem::Listing HotFoldersCollectionItem::read(Listing former)
 {
-    Rows rows;
+    Listing now;
     accepted(
         [&]
         {
             const HotFolders::HotFolderCollection hotFolders;
-            rows.reserve(static_cast<std::size_t>(hotFolders.getCount()));
+            if (former.state == hotFolders.state())
+            {
+                now = std::move(former);
+                return;
+            }
+            now.rows.reserve(static_cast<std::size_t>(hotFolders.getCount()));
             for (int index = 0; index < hotFolders.getCount(); ++index)
             {
-                rows.emplace_back(new HotFolderItem(*this, hotFolders.getAt(index)));
+                now.rows.emplace_back(new HotFolderItem(*this, hotFolders.getAt(index)));
             }
+            now.state = hotFolders.state();
         });
-    return rows;
+    return now;
 }
 
 HRESULT HotFoldersCollectionItem::add(Console& console)
@@ -73,8 +79,7 @@ HRESULT HotFoldersCollectionItem::add(Console& console)
     {
         return S_OK;
     }
-    console.selectScopeItem(GetScopeData().ID);
-    console.refreshResultList(*this);
+    console.selectAndRefresh(*this);
     return S_OK;
 }
 

@@ -5,14 +5,11 @@
 namespace TMgmt
 {
 
-CSnapInItem::CSnapInItem()
-{
-    Module::instance().itemBorn(this);
-}
+CSnapInItem::CSnapInItem() : m_cookie(Module::instance().nodes().add(*this)) {}
 
 CSnapInItem::~CSnapInItem()
 {
-    Module::instance().itemGone(this);
+    Module::instance().nodes().remove(m_cookie);
 }
 
 } // namespace TMgmt

@@ -64,13 +64,14 @@ HRESULT ComponentBase::onShow(const Selection& selection, LPARAM selecting, LPAR
     }
     // The node is shown from here on, even where it has nothing of its own to show or fails to read it.
     m_rows->setNode(selection.items.front());
+    selection.items.front()->countShowing();
     const OwnChange building(m_rows, *selection.items.front());
     return notifyItems(selection, MMCN_SHOW, selecting, scopeItem, console);
 }
 
 bool ComponentBase::isConcernedBy(const CSnapInItem& changed) const noexcept
 {
-    return !m_rows->isOwnChange(changed) && (m_rows->showsNode(changed) || m_rows->contains(changed));
+    return !m_rows->isOwnChange(changed) && (m_rows->showsNode(changed) || m_rows->find(changed) != 0);
 }
 
 HRESULT ComponentBase::Destroy(MMC_COOKIE)

@@ -140,6 +140,16 @@ HRESULT Console::selectScopeItem(HSCOPEITEM item)
     return m_console->SelectScopeItem(item);
 }
 
+void Console::selectAndRefresh(CSnapInItem& node)
+{
+    const unsigned before = node.showings();
+    selectScopeItem(node.GetScopeData().ID);
+    if (node.showings() == before)
+    {
+        refreshResultList(node);
+    }
+}
+
 ComPtr<IConsoleNameSpace> Console::nameSpace()
 {
     if (!m_tree)

@@ -61,7 +61,7 @@ std::optional<Selection> selectionOfComposite(IDataObject* object)
 
 Core::SmartPtr<CSnapInItem> itemOfCookie(MMC_COOKIE cookie)
 {
-    CSnapInItem* const item = Module::instance().findItem(cookie);
+    CSnapInItem* const item = Module::instance().nodes().find(cookie);
     if (!item)
     {
         throw ComError(E_INVALIDARG);

@@ -13,7 +13,7 @@ namespace TMgmt
 TemplateResourcesCollection::TemplateResourcesCollection(const CSnapInItem& applicationNode,
                                                          const Tessaro::ServerApplication& application,
                                                          const Tessaro::ResourcesFolder& folder)
-    : Collection(ScopeNode{.displayName = L"Resources", .image = 8, .childCount = 0}),
+    : StoredCollection(ScopeNode{.displayName = L"Resources", .image = 8, .childCount = 0}),
       m_applicationNode(applicationNode.cookie()),
       m_application(application),
       m_folder(folder)
@@ -30,7 +30,7 @@ HRESULT TemplateResourcesCollection::Command(long command, Console& console, DAT
     case ID_ADD_RESOURCE_FILE:
         return addFile(console);
     default:
-        return Collection::Command(command, console, type);
+        return StoredCollection::Command(command, console, type);
     }
 }
 
@@ -67,16 +67,16 @@ HRESULT TemplateResourcesCollection::OnDelete(Console& console)
 void TemplateResourcesCollection::refreshResultList(Console& console)
 {
     const std::wstring formerName = displayName();
-    Collection::refreshResultList(console);
+    StoredCollection::refreshResultList(console);
     if (displayName() != formerName)
     {
         console.updateScopeItem(*this);
     }
 }
 
-TemplateResourcesCollection::Rows TemplateResourcesCollection::readRows()
+TemplateResourcesCollection::Listing TemplateResourcesCollection::read(Listing former)
 {
-    Rows rows;
+    Listing now;
     accepted(
         [&]
         {
@@ -87,13 +87,19 @@ TemplateResourcesCollection::Rows TemplateResourcesCollection::readRows()
             m_folder = application.getResourceFolderAt(m_folder.getId());
             m_application = application;
             setDisplayName(m_folder.getDisplayName().c_str());
-            rows.reserve(static_cast<std::size_t>(m_folder.getCount()));
+            if (former.state == templates.state())
+            {
+                now = std::move(former);
+                return;
+            }
+            now.rows.reserve(static_cast<std::size_t>(m_folder.getCount()));
             for (int index = 0; index < m_folder.getCount(); ++index)
             {
-                rows.emplace_back(new TemplateResourcesItem(*this, m_folder, m_folder.getAt(index)));
+                now.rows.emplace_back(new TemplateResourcesItem(*this, m_folder, m_folder.getAt(index)));
             }
+            now.state = templates.state();
         });
-    return rows;
+    return now;
 }
 
 HRESULT TemplateResourcesCollection::rename(Console& console)
@@ -116,8 +122,7 @@ HRESULT TemplateResourcesCollection::rename(Console& console)
     {
         return S_OK;
     }
-    console.selectScopeItem(GetScopeData().ID);
-    console.refreshResultList(*this);
+    console.selectAndRefresh(*this);
     return S_OK;
 }
 

@@ -10,14 +10,20 @@ namespace TMgmt
 
 TemplateUserCollection::TemplateUserCollection(const Tessaro::ServerApplication& application,
                                                const Tessaro::UserCollection& accounts)
-    : Collection(ScopeNode{.displayName = L"Users", .image = 19, .childCount = 0}), m_application(application)
+    : StoredCollection(ScopeNode{.displayName = L"Users", .image = 19, .childCount = 0}), m_application(application)
 {
-    setRows(rowsOf(accounts));
+    for (const Core::String& name : m_application.getUsers())
+    {
+        if (name != guestEntry)
+        {
+            accepted([&] { accounts.getUserByName(name); });
+        }
+    }
 }
 
 HRESULT TemplateUserCollection::Command(long command, Console& console, DATA_OBJECT_TYPES type)
 {
-    return command == ID_GRANT_ACCESS ? grantAccess(console) : Collection::Command(command, console, type);
+    return command == ID_GRANT_ACCESS ? grantAccess(console) : StoredCollection::Command(command, console, type);
 }
 
 HRESULT TemplateUserCollection::OnShow(bool selecting, HSCOPEITEM, Console& console)
@@ -32,9 +38,9 @@ HRESULT TemplateUserCollection::OnShow(bool selecting, HSCOPEITEM, Console& cons
     return S_OK;
 }
 
-TemplateUserCollection::Rows TemplateUserCollection::readRows()
+TemplateUserCollection::Listing TemplateUserCollection::read(Listing former)
 {
-    Rows rows;
+    Listing now;
     accepted(
         [&]
         {
@@ -42,32 +48,44 @@ TemplateUserCollection::Rows TemplateUserCollection::readRows()
             // Kept as is: the id is a position, so that this node shows its neighbour's users once an application
             // before its own was removed.
             m_application = templates.getAt(m_application.getId());
-            rows = rowsOf(Tessaro::UserCollection());
+            const Tessaro::UserCollection accounts;
+            now = former.state == accounts.state() ? std::move(former) : list(accounts);
+            if (!(templates.state() == accounts.state()))
+            {
+                // Somebody changed something between the two.
+                now.state = Core::SharedIdentity();
+            }
         });
-    return rows;
+    return now;
 }
 
-TemplateUserCollection::Rows TemplateUserCollection::rowsOf(const Tessaro::UserCollection& accounts) const
+TemplateUserCollection::Listing TemplateUserCollection::list(const Tessaro::UserCollection& accounts) const
 {
     // A copy: while a message is open the console can be used, and this node read anew.
     const Tessaro::ServerApplication application = m_application;
-    Rows rows;
-    rows.reserve(application.getUsers().size());
+    Listing listing;
+    bool isComplete = true;
+    listing.rows.reserve(application.getUsers().size());
     for (const Core::String& name : application.getUsers())
     {
         if (name == guestEntry)
         {
-            rows.emplace_back(new TemplateUserItem(*this, application, name, accounts.isGuestEnabled()));
+            listing.rows.emplace_back(new TemplateUserItem(*this, application, name, accounts.isGuestEnabled()));
             continue;
         }
-        accepted(
+        isComplete &= accepted(
             [&]
             {
                 const Tessaro::User& user = accounts.getUserByName(name);
-                rows.emplace_back(new TemplateUserItem(*this, application, user.getUsername(), user.isEnabled()));
+                listing.rows.emplace_back(
+                    new TemplateUserItem(*this, application, user.getUsername(), user.isEnabled()));
             });
     }
-    return rows;
+    if (isComplete)
+    {
+        listing.state = accounts.state();
+    }
+    return listing;
 }
 
 HRESULT TemplateUserCollection::grantAccess(Console& console)

@@ -24,8 +24,9 @@ HRESULT TemplateUserItem::OnDelete(Console& console)
     if (!accepted(
             [&]
             {
-                m_application.deleteUser(m_username);
-                Tessaro::ServerTemplates().updateApplication(m_application);
+                Tessaro::ServerApplication changed = m_application;
+                changed.deleteUser(m_username);
+                Tessaro::ServerTemplates().updateApplication(changed);
             }))
     {
         return S_OK;

@@ -19,7 +19,7 @@ using Tessaro::ServerTemplates;
 
 TemplatesCollectionItem::TemplatesCollectionItem(const CSnapInItem& parent, const ServerApplication& application,
                                                  const Tessaro::UserCollection& accounts)
-    : Collection(ScopeNode{.displayName = application.getDisplayName().c_str(), .image = 8, .childCount = 1}),
+    : StoredCollection(ScopeNode{.displayName = application.getDisplayName().c_str(), .image = 8, .childCount = 1}),
       m_parent(parent.cookie()),
       m_application(application),
       m_children{new TemplateUserCollection(application, accounts)}
@@ -37,7 +37,7 @@ HRESULT TemplatesCollectionItem::Command(long command, Console& console, DATA_OB
     case ID_ADD_RESOURCE_FOLDER:
         return addFolder(console);
     default:
-        return Collection::Command(command, console, type);
+        return StoredCollection::Command(command, console, type);
     }
 }
 
@@ -89,32 +89,45 @@ HRESULT TemplatesCollectionItem::OnDelete(Console& console)
 HRESULT TemplatesCollectionItem::OnRefresh(Console& console)
 {
     console.refreshResultList(*this);
+    return refreshChildren(console);
+}
+
+HRESULT TemplatesCollectionItem::refreshChildren(Console& console)
+{
     const Children former = m_children;
     m_children = readChildren();
     return replaceChildren(*this, m_children, console);
 }
 
-void TemplatesCollectionItem::readApplication()
+Core::SharedIdentity TemplatesCollectionItem::readApplication()
 {
+    ServerTemplates templates;
     // Kept as is: an application's id is its position, so that its node shows its neighbour once one before it was
     // removed.
-    m_application = ServerTemplates().getAt(m_application.getId());
+    m_application = templates.getAt(m_application.getId());
+    return templates.state();
 }
 
-TemplatesCollectionItem::Rows TemplatesCollectionItem::readRows()
+TemplatesCollectionItem::Listing TemplatesCollectionItem::read(Listing former)
 {
-    Rows rows;
+    Listing now;
     accepted(
         [&]
         {
-            readApplication();
-            rows.reserve(static_cast<std::size_t>(m_application.getTemplatesCount()));
+            const Core::SharedIdentity state = readApplication();
+            if (former.state == state)
+            {
+                now = std::move(former);
+                return;
+            }
+            now.rows.reserve(static_cast<std::size_t>(m_application.getTemplatesCount()));
             for (int index = 0; index < m_application.getTemplatesCount(); ++index)
             {
-                rows.emplace_back(new TemplatePropertyItem(*this, m_application, m_application.getAt(index)));
+                now.rows.emplace_back(new TemplatePropertyItem(*this, m_application, m_application.getAt(index)));
             }
+            now.state = state;
         });
-    return rows;
+    return now;
 }
 
 TemplatesCollectionItem::Children TemplatesCollectionItem::readChildren()
@@ -164,8 +177,8 @@ HRESULT TemplatesCollectionItem::edit(Console& console)
     m_application = edited;
     setDisplayName(m_application.getDisplayName().c_str());
     console.updateScopeItem(*this);
-    console.selectScopeItem(GetScopeData().ID);
-    return OnRefresh(console);
+    console.selectAndRefresh(*this);
+    return refreshChildren(console);
 }
 
 HRESULT TemplatesCollectionItem::addTemplate(Console& console)

@@ -45,6 +45,7 @@ HRESULT UserPropertyItem::edit(Console& console)
     }
     // Kept as is: the row of a user shows what was entered even when it cannot be stored.
     m_user = dialog.user;
+    m_edited = true;
     setAccount(m_user.getUsername(), m_user.isEnabled());
     if (!accepted([&] { Tessaro::UserCollection().updateUser(m_user); }))
     {

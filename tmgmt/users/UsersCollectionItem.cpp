@@ -10,13 +10,13 @@ namespace TMgmt
 {
 
 UsersCollectionItem::UsersCollectionItem()
-    : Collection(ScopeNode{.displayName = L"Users", .image = 19, .childCount = 0})
+    : StoredCollection(ScopeNode{.displayName = L"Users", .image = 19, .childCount = 0})
 {
 }
 
 HRESULT UsersCollectionItem::Command(long command, Console& console, DATA_OBJECT_TYPES type)
 {
-    return command == ID_ADD_USER ? add(console) : Collection::Command(command, console, type);
+    return command == ID_ADD_USER ? add(console) : StoredCollection::Command(command, console, type);
 }
 
 HRESULT UsersCollectionItem::OnShow(bool selecting, HSCOPEITEM, Console& console)
@@ -32,21 +32,37 @@ HRESULT UsersCollectionItem::OnShow(bool selecting, HSCOPEITEM, Console& console
     return S_OK;
 }
 
-UsersCollectionItem::Rows UsersCollectionItem::readRows()
+UsersCollectionItem::Listing UsersCollectionItem::read(Listing former)
 {
-    Rows rows;
+    Listing now;
     accepted(
         [&]
         {
             const Tessaro::UserCollection users;
-            rows.reserve(static_cast<std::size_t>(users.getCount()) + 1);
-            rows.emplace_back(new GuestPropertyItem(*this, users.isGuestEnabled()));
+            if (former.state == users.state())
+            {
+                now = std::move(former);
+                return;
+            }
+            now.rows.reserve(static_cast<std::size_t>(users.getCount()) + 1);
+            now.rows.emplace_back(new GuestPropertyItem(*this, users.isGuestEnabled()));
+            // Whoever is as he was keeps his row. Rows and users are both in the order of their numbers.
+            std::size_t place = 1;
+            const auto formerRow = [&]() -> const UserPropertyItem*
+            { return place < former.rows.size() ? static_cast<UserPropertyItem*>(former.rows[place].get()) : nullptr; };
             for (int index = 0; index < users.getCount(); ++index)
             {
-                rows.emplace_back(new UserPropertyItem(*this, users.getAt(index)));
+                const Tessaro::User& user = users.getAt(index);
+                while (formerRow() && formerRow()->userId() < user.getId())
+                {
+                    ++place;
+                }
+                const bool stays = formerRow() && formerRow()->isOf(user);
+                now.rows.emplace_back(stays ? former.rows[place] : new UserPropertyItem(*this, user));
             }
+            now.state = users.state();
         });
-    return rows;
+    return now;
 }
 
 HRESULT UsersCollectionItem::add(Console& console)

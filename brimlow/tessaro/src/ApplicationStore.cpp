@@ -276,6 +276,16 @@ ApplicationStore::Pointer ApplicationStore::removeApplication(const String& path
 
 ApplicationStore::Pointer ApplicationStore::updateApplication(const ServerApplication& application)
 {
+    const ServerApplication::Fields& fields = application.fields();
+    if (!fields.formerEngine && !fields.formerUsers)
+    {
+        // There is nothing to store; whether it is still there does matter.
+        Pointer content = get();
+        if (find(*content, fields.id))
+        {
+            return content;
+        }
+    }
     Pointer content = change(
         [&](Connection& connection)
         {
@@ -426,22 +436,27 @@ void ApplicationStore::put(std::vector<ServerApplication>& all, std::int64_t row
     }
 }
 
-const ServerApplication& ApplicationStore::find(const Content& content, const StoredId& id)
+const ServerApplication* ApplicationStore::find(const Content& content, const StoredId& id) noexcept
 {
     const auto& all = content.applications;
     const auto found = std::lower_bound(all.begin(), all.end(), id.row, isBefore);
-    if (found == all.end() || found->fields().id != id)
+    return found != all.end() && found->fields().id == id ? &*found : nullptr;
+}
+
+const ServerApplication& ApplicationStore::get(const Content& content, const StoredId& id)
+{
+    if (const ServerApplication* const found = find(content, id))
     {
-        throw Core::UnreacheableCodeException();
+        return *found;
     }
-    return *found;
+    throw Core::UnreacheableCodeException();
 }
 
 void ApplicationStore::refresh(ServerApplication& application, const Content& content)
 {
     const ServerApplication former = application;
     const ServerApplication::Fields& copied = former.fields();
-    application.m_fields = find(content, copied.id).m_fields;
+    application.m_fields = get(content, copied.id).m_fields;
     // What waits for an update still does.
     if (copied.formerEngine)
     {
@@ -457,7 +472,7 @@ void ApplicationStore::refresh(ServerApplication& application, const Content& co
 
 void ApplicationStore::refresh(ResourcesFolder& folder, const Content& content)
 {
-    const ServerApplication& application = find(content, folder.m_fields->application);
+    const ServerApplication& application = get(content, folder.m_fields->application);
     for (const ResourcesFolder& now : application.fields().folders)
     {
         if (now.m_fields->id == folder.m_fields->id)

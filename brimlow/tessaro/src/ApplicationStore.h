@@ -80,7 +80,10 @@ class ApplicationStore
     static void put(std::vector<ServerApplication>& applications, std::int64_t row,
                     const std::optional<ServerApplication>& now);
     static bool isBefore(const ServerApplication& application, std::int64_t row) noexcept;
-    static const ServerApplication& find(const Content& content, const StoredId& id);
+    // Null when it is not there.
+    static const ServerApplication* find(const Content& content, const StoredId& id) noexcept;
+    // Throws when it is not there.
+    static const ServerApplication& get(const Content& content, const StoredId& id);
     static void refresh(ServerApplication& application, const Content& content);
     static void refresh(ResourcesFolder& folder, const Content& content);
 

@@ -113,7 +113,7 @@ TEST_F(Misuse, cookiesThatNameNothing)
     const auto view = snapIn.makeView();
     const MMC_COOKIE log = snapIn.node(L"Log").lParam;
     for (const MMC_COOKIE cookie :
-         std::initializer_list<MMC_COOKIE>{1, -1, -3, log + 1, log ^ (MMC_COOKIE{1} << 40), 0x7FFFFFFFFFFFFFFF})
+         std::initializer_list<MMC_COOKIE>{1, -1, -3, log ^ (1 << 30), log ^ (MMC_COOKIE{1} << 40), 0x7FFFFFFFFFFFFFFF})
     {
         IDataObject* object = reinterpret_cast<IDataObject*>(&snapIn);
         EXPECT_EQ(E_INVALIDARG, snapIn.data->QueryDataObject(cookie, CCT_SCOPE, &object));

@@ -104,6 +104,26 @@ TEST_F(HotFolderList, isReadAnewWheneverItIsShown)
     EXPECT_THAT(names(), ElementsAre(L"Invoices"));
 }
 
+TEST_F(HotFolderList, keepsItsRowsUntilSomethingChanges)
+{
+    storeAll({L"Invoices"});
+    BareSnapIn snapIn;
+    const auto bare = snapIn.makeView();
+    const SCOPEDATAITEM parent = snapIn.node(node);
+    const auto object = snapIn.object(parent.lParam);
+    const auto row = [&](MMC_NOTIFY_TYPE event)
+    {
+        EXPECT_EQ(S_OK, bare->component->Notify(object.Get(), event, TRUE, parent.ID));
+        return bare->console.results.rows.at(0).lParam;
+    };
+    const MMC_COOKIE first = row(MMCN_SHOW);
+    EXPECT_EQ(first, row(MMCN_REFRESH));
+    storeAll({L"Letters"});
+    const MMC_COOKIE changed = row(MMCN_REFRESH);
+    EXPECT_NE(first, changed);
+    EXPECT_EQ(changed, row(MMCN_REFRESH));
+}
+
 TEST_F(HotFolderList, showsTheSameInEveryViewAfterARefreshInOne)
 {
     openNode(2);

@@ -39,10 +39,12 @@ void Machine::use(const fs::path& folder)
 
 fs::path Machine::newPlace()
 {
-    // Wine shows this machine's memory there; numbers of processes are the same again in another of its prefixes.
-    const fs::path memory = L"Z:\\dev\\shm";
-    return (fs::exists(memory) ? memory : fs::temp_directory_path()) /
-           ("tessaro-faults-" + std::to_string(std::random_device()()));
+    // Wine shows this machine's memory there; numbers of processes are the same again in another of its prefixes. A
+    // process asks for its folder only once.
+    static const fs::path memory = L"Z:\\dev\\shm";
+    static const fs::path place = (fs::exists(memory) ? memory : fs::temp_directory_path()) /
+                                  ("tessaro-faults-" + std::to_string(std::random_device()()));
+    return place;
 }
 
 void Machine::age(const fs::path& path)

@@ -86,13 +86,27 @@ TEST_F(SnapshotTest, ItsOwnChangesNeedNoReading)
     EXPECT_EQ((Numbers{1, 2, 3}), *other.get(m_file));
 }
 
-TEST_F(SnapshotTest, ChangesInPlaceWhatNobodyElseHolds)
+TEST_F(SnapshotTest, TakesOverWhatNobodyElseHolds)
 {
     add(1);
     auto held = get();
-    const Numbers* const place = held.get();
+    // With three numbers there is room for a fourth one.
     add(held, 2);
-    EXPECT_EQ(place, held.get());
+    add(held, 3);
+    const int* const numbers = held->data();
+    add(held, 4);
+    EXPECT_EQ(numbers, held->data());
+}
+
+TEST_F(SnapshotTest, HasAnotherObjectForEachState)
+{
+    add(1);
+    auto held = get();
+    const std::weak_ptr<const Numbers> former = held;
+    EXPECT_EQ(former.lock(), get());
+    add(held, 2);
+    EXPECT_EQ(nullptr, former.lock());
+    EXPECT_EQ(held, get());
 }
 
 TEST_F(SnapshotTest, LeavesTheFormerStateToThoseWhoHoldIt)

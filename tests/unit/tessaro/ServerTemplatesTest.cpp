@@ -1,6 +1,7 @@
 #include "brimlow/tessaro/ServerTemplates.h"
 #include "ApplicationDisk.h"
 #include "PrintTo.h"
+#include "brimlow/tessaro/UserCollection.h"
 #include "refusal.h"
 
 #include <gmock/gmock.h>
@@ -256,6 +257,21 @@ TEST_F(ServerTemplatesTest, UpdatesWhatWasChangedInTheCopyOnly)
     EXPECT_THAT(m_disk.records(), ElementsAre("App engine=2 users=Guest,bob,carol,"));
     ServerTemplates().updateApplication(third);
     EXPECT_THAT(m_disk.records(), ElementsAre("App engine=2 users=Guest,bob,carol,")) << "nothing was changed in it";
+}
+
+TEST_F(ServerTemplatesTest, WritesNothingForACopyThatWasNotChanged)
+{
+    ServerApplication application = m_disk.add(L"App", {L"Guest"});
+    const ServerTemplates before;
+    ServerTemplates templates;
+    templates.updateApplication(application);
+    EXPECT_TRUE(before.state() == templates.state());
+    EXPECT_TRUE(before.state() == UserCollection().state());
+
+    application.addUser(L"alice");
+    templates.updateApplication(application);
+    EXPECT_FALSE(before.state() == templates.state());
+    EXPECT_TRUE(templates.state() == UserCollection().state());
 }
 
 TEST_F(ServerTemplatesTest, UpdatesWithTheSameCopyAgain)

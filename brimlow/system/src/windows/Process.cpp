@@ -1,5 +1,7 @@
 #include "brimlow/system/Process.h"
 
+#include "commonAppDataFolder.h"
+
 #include "brimlow/system/Exception.h"
 #include "platform/handles.h"
 
@@ -9,7 +11,7 @@
 namespace Core::Process
 {
 
-String getCommonAppDataFolder()
+String askForCommonAppDataFolder()
 {
     platform::TaskString folder;
     const HRESULT result = SHGetKnownFolderPath(FOLDERID_ProgramData, KF_FLAG_DEFAULT, nullptr, folder.put());
@@ -18,6 +20,12 @@ String getCommonAppDataFolder()
         throw IOException(L"The common application data folder cannot be found", static_cast<SystemError>(result));
     }
     return folder.get();
+}
+
+String getCommonAppDataFolder()
+{
+    static const String folder = askForCommonAppDataFolder();
+    return folder;
 }
 
 } // namespace Core::Process

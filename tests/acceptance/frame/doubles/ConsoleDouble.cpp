@@ -47,6 +47,10 @@ HRESULT ConsoleDouble::QueryConsoleVerb(IConsoleVerb** found)
 HRESULT ConsoleDouble::SelectScopeItem(HSCOPEITEM item)
 {
     selections.push_back(item);
+    if (onSelect)
+    {
+        onSelect(item);
+    }
     return selectAnswer;
 }
 

@@ -48,6 +48,7 @@ class ConsoleDouble final : public ComDouble<IConsole>
     std::vector<Update> updates;
     std::function<void(IDataObject*)> onUpdate;
     std::vector<HSCOPEITEM> selections;
+    std::function<void(HSCOPEITEM)> onSelect;
 
     // What a query for IConsole, for the scope image list, for the verbs, and a selection are answered with.
     HRESULT consoleAnswer = S_OK;

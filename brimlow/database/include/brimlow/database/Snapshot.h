@@ -38,8 +38,8 @@ class Snapshot
 
     // Changes the database and what is in memory: write(connection) does the one, in a transaction of its own, and
     // apply(content) then the same to the content in memory, at a cost that depends only on the change.
-    // held is the caller's own content, and becomes the new one. When write throws, or the database cannot be used,
-    // everything is what it was.
+    // held is the caller's own content, and becomes the new one: always another object than before, so that an object
+    // stands for one state. When write throws, or the database cannot be used, everything is what it was.
     template <class Write, class Apply>
     void change(const DatabaseFile& file, Pointer& held, Write write, Apply apply)
     {
@@ -50,14 +50,19 @@ class Snapshot
         write(connection);
         const std::optional<RandomId> mark = readContentMark(connection);
         const long ownReferences = held == m_content ? 2 : 1;
-        const auto content = m_content.use_count() > ownReferences ? std::make_shared<Content>(*m_content) : m_content;
+        const bool isShared = m_content.use_count() > ownReferences;
+        const auto content = isShared ? std::make_shared<Content>(*m_content) : std::make_shared<Content>();
         transaction.commit();
 
+        if (!isShared)
+        {
+            *content = std::move(*m_content);
+        }
+        held = content;
+        m_content = content;
         // Should this fail, the former mark, which is that of no content any more, makes the next look read anew.
         apply(*content);
-        m_content = content;
         m_mark = mark;
-        held = content;
     }
 
   private:

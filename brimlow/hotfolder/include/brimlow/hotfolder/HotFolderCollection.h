@@ -1,6 +1,7 @@
 #pragma once
 
 #include "brimlow/hotfolder/HotFolder.h"
+#include "brimlow/system/SharedIdentity.h"
 
 #include <memory>
 #include <vector>
@@ -20,6 +21,9 @@ class HotFolderCollection
   public:
     // Without a database the collection is empty; reading makes none.
     HotFolderCollection();
+
+    // Equal for two collections as long as nobody has changed what is stored.
+    Core::SharedIdentity state() const noexcept { return Core::SharedIdentity(m_folders); }
 
     int getCount() const noexcept;
     // The reference is good until the collection changes or ends. An index that is none throws

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "brimlow/system/SharedIdentity.h"
 #include "brimlow/tessaro/ServerApplication.h"
 
 #include <memory>
@@ -22,6 +23,9 @@ class ServerTemplates
   public:
     // Without a database the collection is empty; reading makes none.
     ServerTemplates();
+
+    // Equal for two collections, of applications or of users, as long as nobody has changed what is stored.
+    Core::SharedIdentity state() const noexcept { return Core::SharedIdentity(m_content); }
 
     int getCount() const noexcept;
     // The collection's own copy, which may be changed and given to updateApplication. The reference is good until the

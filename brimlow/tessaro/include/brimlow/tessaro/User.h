@@ -28,6 +28,8 @@ class User
     bool isEnabled() const noexcept { return m_enabled; }
     void setEnable(bool enable) noexcept { m_enabled = enable; }
 
+    bool operator==(const User&) const = default;
+
   private:
     friend class UserTable;
 

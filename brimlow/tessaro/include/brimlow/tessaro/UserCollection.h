@@ -1,5 +1,6 @@
 #pragma once
 
+#include "brimlow/system/SharedIdentity.h"
 #include "brimlow/tessaro/User.h"
 
 #include <memory>
@@ -21,6 +22,9 @@ class UserCollection
   public:
     // Without a database there are no users, and the guest account is off; reading makes no database.
     UserCollection();
+
+    // Equal for two collections, of users or of applications, as long as nobody has changed what is stored.
+    Core::SharedIdentity state() const noexcept { return Core::SharedIdentity(m_content); }
 
     int getCount() const noexcept;
     // The reference is good until the collection changes or ends. A position that is none throws Core::Exception.

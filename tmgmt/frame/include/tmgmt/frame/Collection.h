@@ -42,9 +42,6 @@ class Collection : public Item<T>
         m_rows = readRows();
     }
 
-    // For rows that were made before anything was shown.
-    void setRows(Rows rows) noexcept { m_rows = std::move(rows); }
-
     const Rows& rows() const noexcept { return m_rows; }
 
     // Reads the rows anew and lists them in the caller's view, where it shows this node.

@@ -2,6 +2,7 @@
 
 #include "tmgmt/frame/Item.h"
 #include "tmgmt/snapin/ItemAccess.h"
+#include "tmgmt/snapin/Module.h"
 
 namespace TMgmt
 {
@@ -23,7 +24,14 @@ class Row : public Item<T>
 
     // The node that lists this one. Throws ComError when it is gone.
     Core::SmartPtr<CSnapInItem> lister() const { return itemOfCookie(m_lister); }
-    MMC_COOKIE listerCookie() const noexcept { return m_lister; }
+    // For a row that from now on shows something else than what is stored.
+    void leaveStored() const noexcept
+    {
+        if (CSnapInItem* const lister = Module::instance().nodes().find(m_lister))
+        {
+            lister->discardRows();
+        }
+    }
 
   private:
     // By its cookie: a row can outlive the tree that it belongs to.

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "tmgmt/frame/Collection.h"
+#include "tmgmt/frame/StoredCollection.h"
 #include "tmgmt/hotfolders/HotFolderItem.h"
 
 namespace TMgmt
 {
 
 // The node "Hot Folders": the folders that the server watches for documents to render.
-class HotFoldersCollectionItem : public Collection<HotFoldersCollectionItem, HotFolderItem>
+class HotFoldersCollectionItem : public StoredCollection<HotFoldersCollectionItem, HotFolderItem>
 {
   public:
     static constexpr GUID nodeType{0x6ae6b122, 0x195a, 0x4ba7, {0xbb, 0x77, 0x20, 0x2a, 0xb5, 0xc3, 0xba, 0xbb}};
@@ -22,7 +22,7 @@ class HotFoldersCollectionItem : public Collection<HotFoldersCollectionItem, Hot
 
   protected:
     // Reports hot folders that cannot be read, and lists none.
-    Rows readRows() override;
+    Listing read(Listing former) override;
 
   private:
     HRESULT add(Console& console);

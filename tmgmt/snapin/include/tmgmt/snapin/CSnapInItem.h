@@ -43,6 +43,8 @@ class CSnapInItem : public Core::Object
     // Reads the node's rows anew from where they are kept and lists them in every view that shows the node. Called
     // through Console::refreshResultList. A node without rows of its own has nothing to do.
     virtual void refreshResultList(Console&) {}
+    // One of the node's rows shows something else than what is stored: they are made anew when they are listed next.
+    virtual void discardRows() noexcept {}
     virtual SCOPEDATAITEM& GetScopeData() = 0;
     virtual RESULTDATAITEM& GetResultData() = 0;
     // The node's answer in one clipboard format; DV_E_CLIPFORMAT for a format that it does not have.
@@ -52,11 +54,19 @@ class CSnapInItem : public Core::Object
     virtual Microsoft::WRL::ComPtr<IDataObject> GetDataObject(DATA_OBJECT_TYPES type) = 0;
 
     // The number by which the console names this node.
-    MMC_COOKIE cookie() const noexcept { return reinterpret_cast<MMC_COOKIE>(this); }
+    MMC_COOKIE cookie() const noexcept { return m_cookie; }
+
+    // How often a view began to show the node.
+    unsigned showings() const noexcept { return m_showings; }
+    void countShowing() noexcept { ++m_showings; }
 
   protected:
     CSnapInItem();
     ~CSnapInItem() override;
+
+  private:
+    const MMC_COOKIE m_cookie;
+    unsigned m_showings = 0;
 };
 
 } // namespace TMgmt

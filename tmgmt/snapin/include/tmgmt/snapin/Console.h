@@ -63,6 +63,9 @@ class Console
     // --- The tree
 
     HRESULT selectScopeItem(HSCOPEITEM item);
+    // Selects the node again and has it list its rows anew, once: a console that shows the node at once has it list
+    // them by that.
+    void selectAndRefresh(CSnapInItem& node);
     Microsoft::WRL::ComPtr<IConsoleNameSpace> nameSpace();
     // Has the console ask for the node's name and pictures, and tells it how many children there are. Does nothing for
     // a node that is not in the tree.

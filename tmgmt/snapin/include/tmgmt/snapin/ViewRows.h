@@ -3,8 +3,8 @@
 #include "platform/mmc.h"
 
 #include <memory>
-#include <unordered_map>
 #include <utility>
+#include <vector>
 
 #include "brimlow/system/SmartPtr.h"
 #include "tmgmt/snapin/CSnapInItem.h"
@@ -25,14 +25,10 @@ class ViewRows
     // Whether this view is making the node's rows itself and so has the change already.
     bool isOwnChange(const CSnapInItem& node) const noexcept { return m_ownChange == &node; }
 
-    void add(CSnapInItem& item, HRESULTITEM id)
-    {
-        m_rows.insert_or_assign(&item, Row{Core::SmartPtr<CSnapInItem>(&item), id});
-    }
+    void add(CSnapInItem& item, HRESULTITEM id);
     void clear() noexcept;
-    bool contains(const CSnapInItem& item) const noexcept { return m_rows.contains(&item); }
-    // The row's id in this view; 0 when the view does not show it.
-    HRESULTITEM find(const CSnapInItem& item) const noexcept;
+    // The row's id in this view, the last one that it was given; 0 when the view does not show it.
+    HRESULTITEM find(const CSnapInItem& item) noexcept;
 
   private:
     friend class OwnChange;
@@ -44,7 +40,9 @@ class ViewRows
     };
     Core::SmartPtr<CSnapInItem> m_node;
     const CSnapInItem* m_ownChange = nullptr;
-    std::unordered_map<const CSnapInItem*, Row> m_rows;
+    // By node once one is looked for: most lists come and go without.
+    std::vector<Row> m_rows;
+    bool m_areSorted = true;
 };
 
 // While it lives, the view takes no notice of changes of that node. rows is null where the caller is no view.

@@ -1,14 +1,14 @@
 #pragma once
 
 #include "brimlow/tessaro/ServerApplication.h"
-#include "tmgmt/frame/Collection.h"
+#include "tmgmt/frame/StoredCollection.h"
 #include "tmgmt/templates/TemplateResourcesItem.h"
 
 namespace TMgmt
 {
 
 // A resource folder of an application: the images and texts that its templates use.
-class TemplateResourcesCollection : public Collection<TemplateResourcesCollection, TemplateResourcesItem>
+class TemplateResourcesCollection : public StoredCollection<TemplateResourcesCollection, TemplateResourcesItem>
 {
   public:
     static constexpr GUID nodeType{0xb541a7c3, 0xa80a, 0x418a, {0xa3, 0x69, 0x7f, 0x34, 0x0a, 0x53, 0xbf, 0x0c}};
@@ -26,7 +26,7 @@ class TemplateResourcesCollection : public Collection<TemplateResourcesCollectio
 
   protected:
     // Reports a folder that cannot be read, and lists no files.
-    Rows readRows() override;
+    Listing read(Listing former) override;
 
   private:
     HRESULT rename(Console& console);

@@ -2,14 +2,14 @@
 
 #include "brimlow/tessaro/ServerApplication.h"
 #include "brimlow/tessaro/UserCollection.h"
-#include "tmgmt/frame/Collection.h"
+#include "tmgmt/frame/StoredCollection.h"
 #include "tmgmt/templates/TemplatePropertyItem.h"
 
 namespace TMgmt
 {
 
 // An application: it lists its templates, and has below it the node "Users" and one node for each resource folder.
-class TemplatesCollectionItem : public Collection<TemplatesCollectionItem, TemplatePropertyItem>
+class TemplatesCollectionItem : public StoredCollection<TemplatesCollectionItem, TemplatePropertyItem>
 {
   public:
     static constexpr GUID nodeType{0x27967510, 0x9844, 0x4a62, {0x86, 0xf9, 0xc9, 0x8c, 0xbe, 0xbb, 0x95, 0x2b}};
@@ -30,7 +30,7 @@ class TemplatesCollectionItem : public Collection<TemplatesCollectionItem, Templ
 
   protected:
     // Reports an application that cannot be read, and lists no templates.
-    Rows readRows() override;
+    Listing read(Listing former) override;
 
   private:
     using Children = std::vector<Core::SmartPtr<CSnapInItem>>;
@@ -39,11 +39,12 @@ class TemplatesCollectionItem : public Collection<TemplatesCollectionItem, Templ
     HRESULT addTemplate(Console& console);
     HRESULT addFolder(Console& console);
 
-    // Takes the application as it is stored now.
-    void readApplication();
+    // Takes the application as it is stored now, and tells what state that is.
+    Core::SharedIdentity readApplication();
     // "Users" and the resource folders that are stored now. Reports an application that cannot be read, and gives
     // "Users" alone.
     Children readChildren();
+    HRESULT refreshChildren(Console& console);
 
     MMC_COOKIE m_parent;
     Tessaro::ServerApplication m_application;

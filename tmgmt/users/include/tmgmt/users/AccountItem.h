@@ -51,16 +51,12 @@ class AccountItem : public Row<T>
     {
         m_name = name;
         m_enabled = enabled;
+        this->leaveStored();
     }
     bool isEnabled() const noexcept { return m_enabled; }
 
     // Goes to "Users" and reads its list anew, which lets this row go; the caller holds it.
-    void refreshUsers(Console& console)
-    {
-        const Core::SmartPtr<CSnapInItem> users = this->lister();
-        console.selectScopeItem(users->GetScopeData().ID);
-        console.refreshResultList(*users);
-    }
+    void refreshUsers(Console& console) { console.selectAndRefresh(*this->lister()); }
 
   private:
     Core::String m_name;

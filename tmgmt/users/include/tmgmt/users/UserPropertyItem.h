@@ -14,6 +14,10 @@ class UserPropertyItem : public AccountItem<UserPropertyItem>
 
     UserPropertyItem(const CSnapInItem& parent, const Tessaro::User& user);
 
+    int userId() const noexcept { return m_user.getId(); }
+    // Whether the row is that account's as it is, and was never edited.
+    bool isOf(const Tessaro::User& user) const { return !m_edited && m_user == user; }
+
     HRESULT OnSelect(bool isScope, bool isSelected, Console& console) override;
     HRESULT OnDelete(Console& console) override;
 
@@ -22,6 +26,7 @@ class UserPropertyItem : public AccountItem<UserPropertyItem>
 
   private:
     Tessaro::User m_user;
+    bool m_edited = false;
 };
 
 } // namespace TMgmt

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "tmgmt/frame/Collection.h"
+#include "tmgmt/frame/StoredCollection.h"
 
 namespace TMgmt
 {
 
 // The node "Users": the server's guest account and its own user accounts.
-class UsersCollectionItem : public Collection<UsersCollectionItem, CSnapInItem>
+class UsersCollectionItem : public StoredCollection<UsersCollectionItem, CSnapInItem>
 {
   public:
     static constexpr GUID nodeType{0x7da27e6c, 0x61df, 0x4d4d, {0xa4, 0xde, 0x9e, 0xa5, 0x5f, 0xad, 0x50, 0xff}};
@@ -19,7 +19,7 @@ class UsersCollectionItem : public Collection<UsersCollectionItem, CSnapInItem>
 
   protected:
     // The guest first. Reports accounts that cannot be read, and lists none.
-    Rows readRows() override;
+    Listing read(Listing former) override;
 
   private:
     HRESULT add(Console& console);
