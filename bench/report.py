@@ -14,16 +14,16 @@ REASONS = [
     ('size of TMgmt.dll', 0, 'SQLite and OpenSSL are in it, so that it needs nothing but what Windows has.'),
     ('TMgmt.dll into memory', 0, 'the runtimes in it start and end, and the system libraries that only it uses come '
      'along; the floor only maps it. Once a console.'),
-    ('^Start: load', 0, 'a constant: the nodes, their pictures, and the files that are looked for; the floor has '
-     'empty pictures and looks for nothing. Once a console.'),
-    ('^Start: with', 0, 'the same constant; and each entry becomes a node (an application three), which the console '
+    ('^Start: load', 0, 'a constant: the nodes, and the files and databases that are looked for; the floor looks for '
+     'nothing. Once a console.'),
+    ('^Start: with', 0, 'the same constant; and each entry becomes a node (an application two), which the console '
      'may name at any time.'),
     (': read every text$', 0, 'the console names a row by a number, which is looked up among the nodes that are alive '
      'before it is followed: about 0.1 µs a text.'),
     (': leave$', 10000, 'a node is let go for each row, where the floor has texts only: below a microsecond a row.'),
     (': (show|refresh)', 10000, 'a node is made for each row, where the floor has texts only: a microsecond a row.'),
-    ('^(Users|Users of an application|Templates of an application|Files of a resource folder): (edit|delete|revoke) one',
-     0, 'the node is selected and refreshed, so that the console has it list everything twice.'),
+    ('^((Users|Users of an application|Templates of an application|Files of a resource folder): (edit|delete|revoke)|'
+     '(Private Fonts|Hot Folders): add) one', 0, 'the node is selected and refreshed, so that the console has it list everything twice.'),
     (': (add|edit|rename|grant) one', 0, "the editor fills its controls and checks what is entered; the floor's does "
      'not. And the list is made anew, as by show.'),
     (': delete all$', 10000, 'the system deletes a file the slower the more there are in its folder, on both sides.'),

@@ -20,8 +20,9 @@ String backupPath(const String& path)
 // The name under which the content of the file is now: its own, or that of the backup; empty when there is none.
 String findContent(const String& path, FileOperations& operations)
 {
-    // More than one look, because a replacement in another process moves the content from the one name to the other.
-    for (int look = 0; look < maxAttempts; ++look)
+    // A second look, because a replacement in another process moves the content from the one name to the other. No
+    // second replacement can come to its end in so short a time, because each brings its content to the disk first.
+    for (int look = 0; look < 2; ++look)
     {
         for (const String& candidate : {path, backupPath(path)})
         {
