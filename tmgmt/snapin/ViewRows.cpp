@@ -21,14 +21,18 @@ void ViewRows::clear() noexcept
 
 HRESULTITEM ViewRows::find(const CSnapInItem& item) noexcept
 {
-    const auto node = [](const Row& row) { return row.item.get(); };
+    constexpr std::less<const CSnapInItem*> isBefore;
     if (!m_areSorted)
     {
-        std::ranges::stable_sort(m_rows, std::less(), node);
+        std::stable_sort(m_rows.begin(), m_rows.end(),
+                         [&](const Row& left, const Row& right)
+                         { return isBefore(left.item.get(), right.item.get()); });
         m_areSorted = true;
     }
-    const auto found = std::ranges::equal_range(m_rows, &item, std::less(), node);
-    return found.empty() ? 0 : found.back().id;
+    const auto behind =
+        std::upper_bound(m_rows.begin(), m_rows.end(), &item,
+                         [&](const CSnapInItem* node, const Row& row) { return isBefore(node, row.item.get()); });
+    return behind != m_rows.begin() && (behind - 1)->item.get() == &item ? (behind - 1)->id : 0;
 }
 
 } // namespace TMgmt
