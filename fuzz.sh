@@ -23,6 +23,8 @@ done
 
 tools/setup.sh llvm
 build=${FUZZ_BUILD:-$PWD/out/fuzz}
+# A compiler cache with a base folder makes paths relative, and the sources whose lines count would not be found.
+export CCACHE_BASEDIR=
 # make FOLDER FLAGS: the fuzzer, with the flags.
 make_fuzzer() {
   cmake -S . -B "$1" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTM_FUZZ=ON -DCMAKE_C_COMPILER=clang \
