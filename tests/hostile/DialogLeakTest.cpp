@@ -26,10 +26,10 @@ TEST_P(DialogLeak, openAndCloseLeaveNothing)
     DialogPlay play(instance(), view());
     play.choose(use);
     play.play();
-    ASSERT_EQ(std::set<int>(use.resources.begin(), use.resources.end()), play.resources());
-    ASSERT_EQ(use.windows, play.windows());
-    ASSERT_EQ(use.messages, play.messages());
-    ASSERT_EQ(use.pickers, play.pickers());
+    ASSERT_EQ(std::set<int>(use.resources.begin(), use.resources.end()), play.resources()) << play.record();
+    ASSERT_EQ(use.windows, play.windows()) << play.record();
+    ASSERT_EQ(use.messages, play.messages()) << play.record();
+    ASSERT_EQ(use.pickers, play.pickers()) << play.record();
     const int plays = 1 + expectLevel([&] { play.play(); });
     EXPECT_EQ(use.windows * plays, play.windows());
     EXPECT_EQ(use.messages * plays, play.messages());

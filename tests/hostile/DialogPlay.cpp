@@ -3,6 +3,9 @@
 #include "UnseenDialogs.h"
 
 #include "certificates/Authority.h"
+#include "kit/windows.h"
+
+#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cwchar>
@@ -35,6 +38,7 @@ DialogPlay::DialogPlay(Instance& instance, View& view)
           [this](HINSTANCE module, LPCWSTR name, auto... rest)
           {
               m_resources.insert(numberOf(name));
+              note("dialog " + std::to_string(numberOf(name)));
               return showUnseen(module, name, rest...);
           }),
       m_sheets(
@@ -45,7 +49,12 @@ DialogPlay::DialogPlay(Instance& instance, View& view)
                              [](const PROPSHEETPAGEW& page) { return numberOf(page.pszTemplate); });
               return showUnseen(*sheet, [this](auto unseen) { return m_sheets.callThrough(unseen); });
           }),
-      m_messages([this](auto... rest) { return m_use->showsMessages ? m_messages.callThrough(rest...) : IDOK; }),
+      m_messages(
+          [this](HWND owner, LPCWSTR text, auto... rest)
+          {
+              note("message box: " + Acceptance::narrow(text));
+              return m_use->showsMessages ? m_messages.callThrough(owner, text, rest...) : IDOK;
+          }),
       m_open(chooseFile),
       m_save(chooseFile),
       m_folders([](auto) { return ILCreateFromPathW(L"C:\\HotFolders\\Invoices"); })
@@ -78,23 +87,45 @@ void DialogPlay::choose(const DialogUse& use)
 void DialogPlay::play()
 {
     m_next = 0;
+    m_record.clear();
     m_view.as<IExtendContextMenu>()->Command(m_use->command, m_target.Get());
+    if (m_next != m_use->presses.size())
+    {
+        ADD_FAILURE() << m_use->name << " ended before its press " << m_next + 1 << "\n" << m_record;
+    }
 }
 
-void DialogPlay::press(HWND dialog)
+void DialogPlay::use(HWND dialog)
 {
     if (const HWND page = HastyUser::panelOf(dialog); page != dialog)
     {
         const auto index = SendMessageW(dialog, PSM_HWNDTOINDEX, reinterpret_cast<WPARAM>(page), 0);
-        m_resources.insert(m_pages.at(static_cast<std::size_t>(index)));
+        const int number = m_pages.at(static_cast<std::size_t>(index));
+        m_resources.insert(number);
+        note("page " + std::to_string(number));
     }
     if (m_next == m_use->presses.size())
     {
         HastyUser::dismiss(dialog);
         return;
     }
-    const Press& press = m_use->presses.at(m_next++);
-    if (press.text)
+    press(dialog, m_use->presses.at(m_next++));
+}
+
+void DialogPlay::press(HWND dialog, const Press& press)
+{
+    const HWND control = HastyUser::controlOf(dialog, press.control);
+    note((press.text ? "  types into " : "  clicks ") + std::to_string(press.control));
+    if (!control || !IsWindowEnabled(control))
+    {
+        ADD_FAILURE() << m_use->name << " is out of step at its press " << m_next << ": control " << press.control
+                      << (control ? " is disabled" : " is not there") << "\n"
+                      << m_record << Acceptance::narrow(Acceptance::describeWindow(dialog));
+        // What is open closes without any more presses.
+        m_next = m_use->presses.size();
+        HastyUser::dismiss(dialog);
+    }
+    else if (press.text)
     {
         HastyUser::type(dialog, press.control, press.text);
     }
@@ -102,6 +133,11 @@ void DialogPlay::press(HWND dialog)
     {
         HastyUser::click(dialog, press.control);
     }
+}
+
+void DialogPlay::note(const std::string& line)
+{
+    m_record.append(line).append("\n");
 }
 
 } // namespace Hostile

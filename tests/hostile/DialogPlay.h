@@ -11,12 +11,14 @@
 #include <shlobj.h>
 
 #include <set>
+#include <string>
 #include <vector>
 
 namespace Hostile
 {
 
-// Goes through the plug-in's dialogs as a use of them says. There is one at a time.
+// Goes through the plug-in's dialogs as a use of them says, and fails the test where a press finds nothing to press:
+// then something else is before the user than the use was written for. There is one at a time.
 class DialogPlay
 {
   public:
@@ -35,22 +37,27 @@ class DialogPlay
     int windows() const { return m_user.seen(); }
     int messages() const { return m_messages.calls(); }
     int pickers() const { return m_open.calls() + m_save.calls() + m_folders.calls(); }
+    // Of the last play: what came, message boxes with their texts, and what was pressed, a line each.
+    const std::string& record() const { return m_record; }
 
   private:
     template <Acceptance::ImportName name, class Function>
     using Spy = Acceptance::ImportSpy<name, Function>;
 
-    void press(HWND dialog);
+    void use(HWND dialog);
+    void press(HWND dialog, const Press& press);
+    void note(const std::string& line);
 
     Instance& m_instance;
     View& m_view;
     const DialogUse* m_use = nullptr;
     Microsoft::WRL::ComPtr<IDataObject> m_target;
     std::size_t m_next = 0;
+    std::string m_record;
     std::set<int> m_resources;
     std::vector<int> m_pages; // of the wizard, in the order of the sheet
 
-    HastyUser m_user{[this](HWND dialog, int) { press(dialog); }};
+    HastyUser m_user{[this](HWND dialog, int) { use(dialog); }};
     Spy<"DialogBoxParamW", decltype(DialogBoxParamW)> m_dialogs;
     Spy<"PropertySheetW", decltype(PropertySheetW)> m_sheets;
     Spy<"MessageBoxW", decltype(MessageBoxW)> m_messages;

@@ -71,7 +71,7 @@ const std::vector<DialogUse> uses{
      L"Hot Folders",
      0,
      1048,
-     {{242}, {248}, {238}, {287}, {237}, {IDCANCEL}, {232, L""}, {IDOK}},
+     {{242}, {248}, {286}, {238}, {287}, {237}, {IDCANCEL}, {232, L""}, {IDOK}},
      {236, 1069},
      2,
      1,

@@ -7,7 +7,8 @@
 namespace Hostile
 {
 
-// Presses a button; with a text, it is put into that field and nothing is pressed.
+// Presses a button; with a text, it is put into that field and nothing is pressed. The control is there by then, and
+// enabled.
 struct Press
 {
     int control;

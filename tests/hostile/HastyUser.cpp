@@ -15,10 +15,9 @@ constexpr UINT lookAround = WM_APP;
 constexpr wchar_t className[] = L"HastyUser";
 constexpr wchar_t dialogClass[] = L"#32770";
 
-HWND controlOf(HWND dialog, int id)
+bool isPushButton(HWND control)
 {
-    const HWND control = GetDlgItem(HastyUser::panelOf(dialog), id);
-    return control ? control : GetDlgItem(dialog, id);
+    return (SendMessageW(control, WM_GETDLGCODE, 0, 0) & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0;
 }
 
 } // namespace
@@ -50,17 +49,25 @@ HWND HastyUser::panelOf(HWND dialog)
     return IsWindow(page) && GetParent(page) == dialog ? page : dialog;
 }
 
-void HastyUser::click(HWND dialog, int control)
+HWND HastyUser::controlOf(HWND dialog, int id)
 {
-    if (const HWND button = controlOf(dialog, control))
+    const HWND control = GetDlgItem(panelOf(dialog), id);
+    return control ? control : GetDlgItem(dialog, id);
+}
+
+void HastyUser::click(HWND dialog, int id)
+{
+    const HWND control = controlOf(dialog, id);
+    if (control && !isPushButton(control))
     {
-        PostMessageW(button, BM_CLICK, 0, 0);
+        PostMessageW(control, BM_CLICK, 0, 0);
+        return;
     }
-    else
-    {
-        // What the dialog manager makes of a key, as Escape, where there is no such button.
-        PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(control, BN_CLICKED), 0);
-    }
+    // What the click on a push button ends in. BM_CLICK is that only as long as nothing takes the focus or the mouse
+    // from the button between pressing and letting go: then the click is lost, and nobody is told. Where there is no
+    // such button, this is what the dialog manager makes of a key, as Escape.
+    PostMessageW(control ? GetParent(control) : dialog, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED),
+                 reinterpret_cast<LPARAM>(control));
 }
 
 void HastyUser::type(HWND dialog, int control, const wchar_t* text)

@@ -27,8 +27,10 @@ class HastyUser
 
     // The window whose controls the user has before him: of a wizard, the page that it shows.
     static HWND panelOf(HWND dialog);
-    // Posts a click on the control with that id: one of the dialog's own, or of the page that a wizard shows.
-    static void click(HWND dialog, int control);
+    // The control with that id, of the dialog or of the page that a wizard shows; null when there is none.
+    static HWND controlOf(HWND dialog, int id);
+    // Posts a click on the control with that id.
+    static void click(HWND dialog, int id);
     // Puts a text into a field at once.
     static void type(HWND dialog, int control, const wchar_t* text);
     // Whatever it is, it closes.
