@@ -140,11 +140,16 @@ class RowsAfterAnEdit : public KeptRows
         return m_view->component->Notify(m_object.Get(), MMCN_SHOW, selecting, m_parent.ID);
     }
 
+    void openAlice()
+    {
+        const MMC_COOKIE alice = m_view->console.results.rows.at(1).lParam;
+        EXPECT_EQ(S_OK, m_view->component->Notify(m_view->object(alice).Get(), MMCN_DBLCLICK, 0, 0));
+    }
+
     void editAlice()
     {
         rename(L"zoe.z");
-        const MMC_COOKIE alice = m_view->console.results.rows.at(1).lParam;
-        EXPECT_EQ(S_OK, m_view->component->Notify(m_view->object(alice).Get(), MMCN_DBLCLICK, 0, 0));
+        openAlice();
         EXPECT_EQ(std::vector<HSCOPEITEM>{m_parent.ID}, m_view->console.selections);
         ASSERT_EQ(3u, m_view->console.results.rows.size());
         EXPECT_EQ(L"zoe.z", m_view->cell(m_view->console.results.rows.at(1).lParam, 0));
@@ -159,6 +164,16 @@ class RowsAfterAnEdit : public KeptRows
 TEST_F(RowsAfterAnEdit, areListedWhereTheConsoleDoesNotShowTheNode)
 {
     editAlice();
+}
+
+TEST_F(RowsAfterAnEdit, haveThePictureOfWhatIsStoredNow)
+{
+    constexpr int enabledUser = 17;
+    constexpr int disabledUser = 23;
+    EXPECT_EQ(enabledUser, m_view->console.results.rows.at(1).nImage);
+    switchTo(false, IDOK);
+    openAlice();
+    EXPECT_EQ(disabledUser, m_view->console.results.rows.at(1).nImage);
 }
 
 TEST_F(RowsAfterAnEdit, areListedOnceWhereTheConsoleShowsTheNodeAtOnce)
