@@ -1,5 +1,7 @@
 #include "Program.h"
 
+#include "startProcess.h"
+
 #include <array>
 #include <filesystem>
 #include <stdexcept>
@@ -16,18 +18,10 @@ Program::Program(const std::wstring& arguments)
     SetHandleInformation(m_outputEnd.get(), HANDLE_FLAG_INHERIT, 0);
 
     STARTUPINFOW startup{};
-    startup.cb = sizeof startup;
     startup.dwFlags = STARTF_USESTDHANDLES;
     startup.hStdOutput = input.get();
     startup.hStdError = input.get();
-    PROCESS_INFORMATION process{};
-    std::wstring line = L"\"" + path() + L"\" " + arguments;
-    if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &process))
-    {
-        throw std::runtime_error("TSvcStandIn.exe is not beside the tests");
-    }
-    CloseHandle(process.hThread);
-    m_process.reset(process.hProcess);
+    m_process = startProcess(L"\"" + path() + L"\" " + arguments, startup);
 }
 
 Program::~Program()

@@ -3,11 +3,11 @@
 #include "Machine.h"
 #include "childProgram.h"
 #include "platform/handles.h"
+#include "startProcess.h"
 
 #include <algorithm>
 #include <array>
 #include <iostream>
-#include <stdexcept>
 #include <string>
 
 namespace
@@ -26,24 +26,6 @@ std::wstring commandLine(const Save& save, Fault fault, int point)
     return L"\"" + std::wstring(program.data()) + L"\" " + std::wstring(option) + L' ' +
            std::to_wstring(found - allSaves().begin()) + L' ' + std::to_wstring(static_cast<int>(fault)) + L' ' +
            std::to_wstring(point) + L" \"" + Machine::folder().wstring() + L'"';
-}
-
-// On a busy machine Wine does not come to start one program in thousands.
-platform::KernelHandle start(std::wstring line)
-{
-    STARTUPINFOW startup{};
-    startup.cb = sizeof startup;
-    PROCESS_INFORMATION started{};
-    for (int attempt = 1; attempt <= 3; ++attempt)
-    {
-        if (CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &started))
-        {
-            const platform::KernelHandle thread(started.hThread);
-            return platform::KernelHandle(started.hProcess);
-        }
-        std::cerr << "no process can be started, error " << GetLastError() << '\n';
-    }
-    throw std::runtime_error("no process can be started");
 }
 
 } // namespace
@@ -66,7 +48,7 @@ void runChildProgram(wchar_t** arguments)
 
 Attempt attemptElsewhere(const Save& save, Fault fault, int point)
 {
-    const platform::KernelHandle process = start(commandLine(save, fault, point));
+    const platform::KernelHandle process = startProcess(commandLine(save, fault, point), {});
     WaitForSingleObject(process.get(), INFINITE);
     DWORD status = 0;
     GetExitCodeProcess(process.get(), &status);
